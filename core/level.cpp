@@ -1,0 +1,169 @@
+#include "core/level.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "core/anzeige.h"
+#include "core/zahlen.h"
+#include "core/zufall.h"
+#include "core/zug.h"
+
+namespace {
+
+constexpr int kModusExperte = 3;
+
+struct Startstufe {
+  int bisLevel;
+  std::array<std::int16_t, kModi> felder;
+};
+constexpr std::array<Startstufe, 6> kStartstufen{{
+    {5, {8, 6, 0}},
+    {20, {8, 6, 0}},  // Experte rises from level to level here, see StartfelderFuer.
+    {24, {14, 12, 12}},
+    {29, {11, 9, 9}},
+    {34, {9, 7, 7}},
+    {kLetztesLevel, {7, 5, 5}},
+}};
+
+struct Freistufe {
+  int bisLevel;
+  std::int16_t felder;
+};
+constexpr std::array<Freistufe, 6> kFreistufen{
+    {{3, 2}, {8, 4}, {13, 6}, {18, 8}, {30, 10}, {kLetztesLevel, 12}}};
+
+template <class Stufen>
+const auto &StufeFuer(const Stufen &stufen, int level) {
+  return *std::find_if(stufen.begin(), stufen.end() - 1,
+                       [level](const auto &stufe) { return level <= stufe.bisLevel; });
+}
+
+std::int16_t ZufaelligeZelle(int von, int bis) {
+  return static_cast<std::int16_t>(static_cast<int>(zufall.Zahl() * (bis - von + 1)) + von);
+}
+
+/// The draw behind both kinds of cells; they differ only in the flag that is tested and set.
+std::int16_t ZieheZelle(std::int16_t von, std::int16_t bis, bool Zelle::*merkmal) {
+  zufall.Saee();
+  std::int16_t zelle = 0;
+  do {
+    zelle = ZufaelligeZelle(von, bis);
+  } while (spiel.Feld.at(static_cast<std::size_t>(zelle)).*merkmal);
+  spiel.Feld.at(static_cast<std::size_t>(zelle)).*merkmal = true;
+  return zelle;
+}
+
+void FuelleBrett() {
+  spiel.lstWiederHolen.clear();
+  for (std::int16_t k = 1; k <= spiel.AnzahlSaranten; ++k) {
+    const std::int16_t zelle = ZieheSarant(1, kZellen);
+    spiel.SarantenListe.at(static_cast<std::size_t>(k)) = zelle;
+    spiel.lstWiederHolen.push_back(std::to_string(zelle));
+  }
+}
+
+/// All levels are played: the closing messages, the best list, and the process ends.
+void SpielZuEnde(Ansicht &ansicht) {
+  ansicht.Melde(MeldungSpielBeendet());
+  ansicht.BestenlistePruefen();
+  ansicht.Melde(MeldungVielenDank());
+  spiel.Punkte = 0;
+  ansicht.BeendeDasSpiel();
+}
+
+}  // namespace
+
+std::int16_t StartfelderFuer(int level, int modus) {
+  if (modus == kModusExperte && level > 5 && level <= 20)
+    return static_cast<std::int16_t>(level - 5);
+  return StufeFuer(kStartstufen, level).felder.at(static_cast<std::size_t>(modus - 1));
+}
+
+std::int16_t FreifelderFuer(int level) {
+  return StufeFuer(kFreistufen, level).felder;
+}
+
+void SpielBeginnen(Ansicht &ansicht) {
+  spiel.Punkte = kStartpunkte;
+  spiel.Levelpunkte = 0;
+  spiel.Level = 0;
+  spiel.AnzahlSaranten = 75;
+  LevelBeginnen(ansicht);
+  BerechneZahlen(ansicht);
+}
+
+void LevelBeginnen(Ansicht &ansicht) {
+  ansicht.VerbergeModuswahl();
+  spiel.Fehler = 0;
+  for (int zelle = 1; zelle <= kZellen; ++zelle) {
+    spiel.Feld.at(static_cast<std::size_t>(zelle)).IstSarant = false;
+    ansicht.SetzeKachel(zelle, Kachel::Verdeckt);
+  }
+  ++spiel.Level;
+  if (spiel.Level > kLetztesLevel) {
+    SpielZuEnde(ansicht);
+    return;
+  }
+  spiel.Startfelder = StartfelderFuer(spiel.Level, spiel.Spielmodus);
+  spiel.AnzahlSaranten = static_cast<std::int16_t>(76 - spiel.Level);
+  ansicht.SetzeModusfarbe(Textfarbe::Blau);
+  FuelleBrett();
+  LeereLevelpunkte(ansicht);
+  ansicht.ErlaubeSpeichern(false);
+  ExternerKlick(ansicht);
+  MarkiereFreiesFeld(ansicht);
+  StoppePfeil(ansicht, Pfeil::Weiter);
+}
+
+std::int16_t ZieheSarant(std::int16_t von, std::int16_t bis) {
+  return ZieheZelle(von, bis, &Zelle::IstSarant);
+}
+
+std::int16_t ZieheStartfeld(std::int16_t von, std::int16_t bis) {
+  return ZieheZelle(von, bis, &Zelle::Gezogen);
+}
+
+void ExternerKlick(Ansicht &ansicht) {
+  for (Zelle &zelle : spiel.Feld)
+    zelle.Gezogen = false;
+  for (int n = 0; n < spiel.Startfelder; ++n) {
+    std::int16_t zelle = 0;
+    do {
+      zelle = ZieheStartfeld(1, kZellen);
+    } while (!spiel.Feld.at(static_cast<std::size_t>(zelle)).IstSarant);
+    imgSar_MouseDown(ansicht, zelle, kLinkeTaste);
+  }
+  ZugAuswerten(ansicht);
+  ZeigeStatus(ansicht);
+}
+
+void MarkiereFreiesFeld(Ansicht &ansicht) {
+  const std::int16_t freifelder = FreifelderFuer(spiel.Level);
+  for (int marken = 0; marken < freifelder;) {
+    const std::int16_t zelle = ZufaelligeZelle(1, kZellen);
+    const auto &saranten = spiel.lstWiederHolen;
+    if (std::find(saranten.begin(), saranten.end(), std::to_string(zelle)) != saranten.end())
+      continue;
+    if (ansicht.LiesKachel(zelle) != Kachel::Markiert) {
+      ansicht.SetzeKachel(zelle, Kachel::Markiert);
+      ++marken;
+    }
+  }
+}
+
+void RaeumeLevelende(Ansicht &ansicht) {
+  spiel.Fehler = 0;
+  spiel.Levelpunkte = 0;
+  for (const Bedienung bedienung :
+       {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern})
+    ansicht.Zeige(bedienung, false);
+  ansicht.ErlaubeSpeichern(false);
+  StoppePfeil(ansicht, Pfeil::Start);
+  StoppePfeil(ansicht, Pfeil::Weiter);
+}
+
+void StoppePfeil(Ansicht &ansicht, Pfeil pfeil) {
+  ansicht.StelleTimer(pfeil, 0);
+  ansicht.ZeigePfeil(pfeil, kKeinPfeil);
+}

@@ -1,0 +1,166 @@
+#include "core/meldungen.h"
+
+#include "core/spiel.h"
+
+const std::string &Versionstext() {
+  static const std::string text = "Glanzgrube  Vers.: " GLANZGRUBE_VERSION;
+  return text;
+}
+
+std::string Moduszeile(int leerzeichen) {
+  return "Spielmodus:" + std::string(static_cast<std::size_t>(leerzeichen), ' ') +
+         ModusName(spiel.Spielmodus) + "\r\nEs sind " + std::to_string(spiel.AnzahlSaranten) +
+         " Saranten auf dem Spielfeld.";
+}
+
+Meldung FrageNeuesSpiel() {
+  return {kKlangBlip,
+          "Es läuft bereits ein aktuelles Spiel.\r\n"
+          "Sind Sie sicher,\r\n"
+          "dass Sie ein neues Spiel beginnen möchten?",
+          "\r\n»Neues Spiel« bestätigen"};
+}
+
+Meldung FrageEinstellungen() {
+  return {kKlangFrage,
+          "Es läuft ein aktuelles Spiel mit " + std::to_string(spiel.Punkte) +
+              "« Punkten.\r\n"
+              "Wenn Sie die Einstellungen ändern,\r\n"
+              "müssen Sie ein neues Spiel beginnen.",
+          "\r\n»Einstellungen ändern« bestätigen"};
+}
+
+Meldung FrageBeenden() {
+  return {kKlangBlip,
+          "Es läuft bereits ein aktuelles Spiel.\r\n"
+          "Sind Sie sicher,\r\n"
+          "dass Sie das Spiel beenden möchten?",
+          "\r\n»Spiel beenden« bestätigen"};
+}
+
+Meldung FrageSucheSpielstand() {
+  return {kKlangFrage,
+          "Im Ordner " + spiel.Datenordner +
+              "\r\nbefindet sich keine Datei mit gespeichtem Spielstand!",
+          "\r\nMöchten Sie selbst nach einer Datei suchen?", Lage::LinksOben};
+}
+
+Meldung FrageLaden(int level, int modus, const std::string &punkte) {
+  return {kKlangFehler,
+          "Spielstart in Level:   " + std::to_string(level) +
+              "\r\nSpielmodus:  " + ModusName(modus) + "\r\nPunkte:  " + punkte,
+          "\r\n»Spiel starten« bestätigen"};
+}
+
+Meldung FrageBesteneintrag() {
+  return {kKlangStart,
+          "Sehr gut!!\r\n"
+          "Sie haben eine neue Bestmarke erreicht.",
+          "Möchten Sie sich in die Liste der »Besten Spieler« eintragen?"};
+}
+
+Meldung FrageEintraegeLoeschen() {
+  return {kKlangFrage,
+          "\r\nSind Sie sicher,\r\n"
+          "dass Sie alle Einträge löschen möchten?",
+          "\r\n»Einträge löschen« bestätigen"};
+}
+
+Meldung FrageAuswahl(int level, int modus) {
+  return {kKlangFrage,
+          "Sie haben folgende Einstellung gewählt\r\n"
+          "Spielstart in Level:  " +
+              std::to_string(level) + "\r\nSpielmodus:  " + ModusName(modus),
+          "\r\n»Auswahl« bestätigen"};
+}
+
+Meldung MeldungSpielBeendet() {
+  return {kKlangTada,
+          "Das Spiel ist beendet!\r\n"
+          "Sie haben alle Level erfolgreich gespielt.",
+          "Es wird geprüft,\r\n"
+          "ob Sie sich in die Liste der Besten Spieler eintragen können.",
+          Lage::RechtsUnten};
+}
+
+Meldung MeldungVielenDank() {
+  return {kKeinKlang,
+          "\r\nVielen Dank!\r\n"
+          "Sie haben Glanzgrube erfolgreich beendet.",
+          "\r\nBesuchen Sie auch meine Homepage.\r\n"
+          "www.glanzgrube.example",
+          Lage::RechtsUnten};
+}
+
+Meldung MeldungInfo() {
+  return {kKlangBlip,
+          "Spielidee und Programmierung:\r\n"
+          "Werkstatt Glanzgrube\r\n"
+          "werkstatt.glanzgrube.example",
+          "Grafik:\r\n"
+          "Atelier Glanzgrube\r\n"
+          "atelier.glanzgrube.example"};
+}
+
+Meldung MeldungKeineFestplatte() {
+  return {kKlangFehler, "\r\nDie Festplatte auf Ihrem System wurde nicht erkannt!",
+          "\r\nEin Speichern von Daten ist leider nicht möglich"};
+}
+
+Meldung MeldungOrdnerFehlgeschlagen() {
+  return {kKlangFehler, "\r\nDas Anlegen des Ordners für die Daten ist fehlgeschlagen!",
+          "\r\nDie Daten für die Stastitik\r\n"
+          "können nicht gespeichert werden!"};
+}
+
+Meldung MeldungFalscherDateityp(const std::string &dateititel) {
+  return {kKlangFehler, "Die gewählte Datei\r\n" + dateititel + "\r\nist keine Spieledatei!",
+          "\r\nFalscher Dateitype"};
+}
+
+Meldung MeldungKeinDateiname() {
+  return {kKlangFehler, "\r\nSie haben keinen gültigen Dateinamen eingeben.",
+          "\r\nKein gültiger Dateiname"};
+}
+
+Meldung MeldungLesefehler(int fehlernummer) {
+  return {kKlangFehler,
+          "Fehler beim Lesen der Datei.\r\n"
+          "Spielstand konnten nicht geladen werden.",
+          "\r\nFehlernummer: " + std::to_string(fehlernummer)};
+}
+
+Meldung MeldungSchreibfehler(int fehlernummer) {
+  return {kKlangFehler,
+          "Fehler beim Speichen der Daten\r\n"
+          "Der Spielstand wurde nicht gespeichert!",
+          "\r\nFehlernummer: " + std::to_string(fehlernummer)};
+}
+
+Meldung MeldungKeinBesteneintrag() {
+  return {kKlangBlip,
+          "Ein Eintrag in die Liste der »Besten Spieler«\r\n"
+          "ist leider nicht möglich!",
+          "Mehr Erfolg beim nächsten »Spiel«."};
+}
+
+Meldung MeldungBesteNichtGelesen(int fehlernummer) {
+  return {kKlangFehler,
+          "Die Daten für »Beste Spieler«\r\n"
+          "konnten nicht gelesen werden!",
+          "Fehlernummer: " + std::to_string(fehlernummer)};
+}
+
+Meldung MeldungBesteNichtGespeichert() {
+  return {kKlangFrage,
+          "Die Werte für »Beste Spieler«\r\n"
+          "konnten nicht gespeichert werden.",
+          "\r\nFehler beim Speichern"};
+}
+
+Meldung MeldungKeineSoundkarte() {
+  return {kKlangFrage,
+          "\r\nEs wurde keine Soundkarte,\r\n"
+          "auf Ihren System erkannt",
+          "\r\n»Soundeffekt an« ist nicht möglich!"};
+}

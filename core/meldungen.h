@@ -1,0 +1,62 @@
+/// @file
+/// Every message of the game: its sound, its two texts and where its window stands.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+/// Sound effects by number.
+inline constexpr int kKeinKlang = 0;
+inline constexpr int kKlangFrage = 2;
+inline constexpr int kKlangFehler = 3;
+inline constexpr int kKlangBlip = 4;
+inline constexpr int kKlangStart = 5;
+inline constexpr int kKlangTada = 6;
+
+/// Where a message window stands.
+enum class Lage {
+  Mitte,        ///< Centred on the main window.
+  RechtsUnten,  ///< 100 twips right of and below the main window's top left corner.
+  LinksOben,    ///< 100 twips left of and above it.
+};
+
+/// One message. Line breaks are CR LF; those at the start of a text move its first line down.
+struct Meldung {
+  int Klang;
+  std::string lblMeldung;
+  std::string lblTitel;
+  Lage lage = Lage::Mitte;
+};
+
+/// The name of the game with its version, as the title bars show it.
+const std::string &Versionstext();
+
+// Questions, answered in `spiel.Antwort`.
+Meldung FrageNeuesSpiel();
+Meldung FrageEinstellungen();
+Meldung FrageBeenden();
+Meldung FrageSucheSpielstand();
+/// @param level   the level to be started, @param punkte the second line of the file as it stands.
+Meldung FrageLaden(int level, int modus, const std::string &punkte);
+Meldung FrageBesteneintrag();
+Meldung FrageEintraegeLoeschen();
+/// @param level   the first level of the chosen tier.
+Meldung FrageAuswahl(int level, int modus);
+
+// Announcements.
+Meldung MeldungSpielBeendet();
+Meldung MeldungVielenDank();
+Meldung MeldungInfo();
+Meldung MeldungKeineFestplatte();
+Meldung MeldungOrdnerFehlgeschlagen();
+Meldung MeldungFalscherDateityp(const std::string &dateititel);
+Meldung MeldungKeinDateiname();
+Meldung MeldungLesefehler(int fehlernummer);
+Meldung MeldungSchreibfehler(int fehlernummer);
+Meldung MeldungKeinBesteneintrag();
+Meldung MeldungBesteNichtGelesen(int fehlernummer);
+Meldung MeldungBesteNichtGespeichert();
+Meldung MeldungKeineSoundkarte();
+
+/// The line of a running game. @param leerzeichen the blanks behind the colon, two or three.
+std::string Moduszeile(int leerzeichen);

@@ -1,0 +1,66 @@
+/// @file
+/// The record: everything that a running game remembers, apart from the tiles that the cells show.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+inline constexpr int kZellen = 100;  ///< Cells are numbered 1 to 100, row by row from the top left.
+inline constexpr int kZahlfelder = 100;    ///< Clue places, five to each of the 20 lines, from 1.
+inline constexpr int kLinie = 10;          ///< Cells in a row or a column.
+inline constexpr int kPlaetzeJeLinie = 5;  ///< Clue places of a line.
+inline constexpr int kLetztesLevel = 40;   ///< The game ends when this level is won.
+inline constexpr int kStartpunkte = 500;   ///< Points of a new game at level 1.
+inline constexpr int kErlaubteFehler = 1;  ///< Wrong cells that a level forgives.
+inline constexpr int kModi = 3;            ///< Modes, numbered from 1.
+inline constexpr std::int16_t kModusNormal = 2;
+
+/// The tile that a cell shows. It is the only record of what has happened to the cell.
+enum class Kachel { Verdeckt, Markiert, Fehler, Sarant };
+
+/// What is known of one cell of the board.
+struct Zelle {
+  bool IstSarant = false;  ///< The cell holds a gem. Changes only when a level begins.
+  bool Gezogen = false;  ///< Has come up in the present draw of start cells; else without meaning.
+};
+
+/// The record of the game. A fresh `Spiel` is the state at the start of the process.
+struct Spiel {
+  std::int16_t Level = 0;            ///< Running level, 1 to 40; 0 before the first.
+  std::int32_t Punkte = 0;           ///< Total points. A game runs exactly while this is not 0.
+  std::int32_t Levelpunkte = 0;      ///< Result of the level, not yet part of `Punkte`.
+  std::int16_t Fehler = 0;           ///< Cells that show `Kachel::Fehler`; recounted at each move.
+  std::int16_t SarantenRest = 0;     ///< Gems not yet opened; 0 means that the level is won.
+  std::int16_t AnzahlSaranten = 75;  ///< Gems on the board: 76 - `Level`.
+  std::int16_t Startfelder = 0;      ///< Gems that are opened for the player when a level begins.
+  std::int16_t Spielmodus = kModusNormal;
+
+  std::array<Zelle, kZellen + 1> Feld{};  ///< The board; index 0 is unused.
+  std::array<std::int16_t, kZellen + 1>
+      SarantenListe{};                      ///< Gem cells as drawn; index 0 is unused.
+  std::vector<std::string> lstWiederHolen;  ///< The same cells as decimal text, from 0.
+
+  std::array<std::string, kModi> ModusNamen{"Einfach", "Normal", "Experte"};
+  std::int16_t Antwort = 0;           ///< Answer to the last question, see `Antwort`.
+  bool SoundAn = true;                ///< The player's switch for sound effects; not stored.
+  bool DatenordnerAktiv = false;      ///< False: data lie in the program's own folder.
+  std::string Datenordner;            ///< Folder of the data, UTF-8, without a closing separator.
+  std::int32_t Bestenschwelle = 0;    ///< Points of the lowest entry of the best list.
+  std::int16_t WeiterBlinkphase = 0;  ///< Phase 0 or 1 of the arrow `imgWeiter`.
+  std::int16_t StartBlinkphase = 0;   ///< Phase 0 or 1 of the arrow `imgZeigeStart`.
+};
+
+/// The one instance, which every module reads and writes.
+inline Spiel spiel;
+
+/// Values of `Spiel::Antwort`. Every caller tests for `kJa` alone.
+inline constexpr std::int16_t kJa = 1;
+inline constexpr std::int16_t kNein = 2;
+inline constexpr std::int16_t kAbgebrochen = 3;
+
+/// The name of a mode, which must be 1 to 3.
+inline const std::string &ModusName(int modus) {
+  return spiel.ModusNamen.at(static_cast<std::size_t>(modus - 1));
+}

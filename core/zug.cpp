@@ -1,0 +1,98 @@
+#include "core/zug.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include "core/anzeige.h"
+
+namespace {
+
+constexpr std::array<std::int32_t, kModi> kBonus{400, 450, 500};
+constexpr std::int32_t kAbzug = 100;
+constexpr int kBlinkenGewonnen = 300;  // milliseconds
+constexpr int kBlinkenVerloren = 400;  // milliseconds
+
+bool BrettLiegt() {
+  return std::any_of(spiel.Feld.begin(), spiel.Feld.end(),
+                     [](const Zelle &zelle) { return zelle.IstSarant; });
+}
+
+void LevelGewonnen(Ansicht &ansicht) {
+  LevelwertungZeigen(ansicht);
+  ansicht.Zeige(Bedienung::imgNextLevel, true);
+  ansicht.ErlaubeSpeichern(true);
+  ansicht.Zeige(Bedienung::imgSpeichern, true);
+  ansicht.SpieleSound(kKlangTada);
+  ansicht.StelleTimer(Pfeil::Weiter, kBlinkenGewonnen);
+  ansicht.Zeige(Bedienung::imgWeiter, true);
+  ansicht.SetzeModustext("Klicken Sie auf »Nächster Level«");
+}
+
+void LevelVerloren(Ansicht &ansicht) {
+  ansicht.Zeige(Bedienung::cmdWiederholen, true);
+  ansicht.StelleTimer(Pfeil::Weiter, kBlinkenVerloren);
+  ansicht.SetzeModustext("Klicken Sie auf »Wiederholen«");
+  ansicht.SpieleSound(kKlangFehler);
+  spiel.Levelpunkte = -kAbzug;
+  ZeigeStatus(ansicht);
+  ZeigeLevelpunkte(ansicht, kAbzug, Ziffernfarbe::Rot);  // The refresh has blanked this row.
+}
+
+}  // namespace
+
+void imgSar_MouseDown(Ansicht &ansicht, int Index, int Button) {
+  if (!BrettLiegt() || ansicht.IstSichtbar(Bedienung::imgNextLevel) ||
+      ansicht.IstSichtbar(Bedienung::cmdWiederholen))
+    return;
+  const Kachel kachel = ansicht.LiesKachel(Index);
+  if (Button == kLinkeTaste && kachel == Kachel::Markiert)
+    return;
+  ansicht.SetzeModustext(Moduszeile(3));
+  if (Button == kLinkeTaste) {
+    const bool istSarant = spiel.Feld.at(static_cast<std::size_t>(Index)).IstSarant;
+    ansicht.SetzeKachel(Index, istSarant ? Kachel::Sarant : Kachel::Fehler);
+    ansicht.SpieleSound(istSarant ? kKlangBlip : kKlangFehler);
+  } else if (kachel == Kachel::Sarant || kachel == Kachel::Fehler) {
+    return;
+  } else {
+    ansicht.SetzeKachel(Index, kachel == Kachel::Markiert ? Kachel::Verdeckt : Kachel::Markiert);
+  }
+  ZugAuswerten(ansicht);
+  if (spiel.SarantenRest == 0)
+    LevelGewonnen(ansicht);
+}
+
+void ZugAuswerten(Ansicht &ansicht) {
+  spiel.Fehler = 0;
+  for (int zelle = 1; zelle <= kZellen; ++zelle) {
+    if (ansicht.LiesKachel(zelle) != Kachel::Fehler)
+      continue;
+    ++spiel.Fehler;
+    if (spiel.Fehler > kErlaubteFehler) {
+      LevelVerloren(ansicht);
+      return;
+    }
+  }
+  ZeigeStatus(ansicht);
+}
+
+void LevelwertungZeigen(Ansicht &ansicht) {
+  spiel.Levelpunkte = kBonus.at(static_cast<std::size_t>(spiel.Spielmodus - 1));
+  ZeigeLevelwertung(ansicht);
+}
+
+std::int16_t ZaehleRest(const Ansicht &ansicht) {
+  int rest = 0;
+  for (int zelle = 1; zelle <= kZellen; ++zelle) {
+    rest += spiel.Feld.at(static_cast<std::size_t>(zelle)).IstSarant ? 1 : 0;
+    rest -= ansicht.LiesKachel(zelle) == Kachel::Sarant ? 1 : 0;
+  }
+  return static_cast<std::int16_t>(rest);
+}
+
+std::int32_t SummePunkte() {
+  using Grenzen = std::numeric_limits<std::int32_t>;
+  const std::int64_t summe = std::int64_t{spiel.Punkte} + spiel.Levelpunkte;
+  return static_cast<std::int32_t>(std::clamp<std::int64_t>(summe, Grenzen::min(), Grenzen::max()));
+}
