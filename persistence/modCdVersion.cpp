@@ -1,0 +1,34 @@
+#include "persistence/modCdVersion.h"
+
+#include "platform/modExistiertDatei.h"
+#include "platform/modOpenSave.h"
+#include "platform/pfade.h"
+
+QString Datenpfad(const QString &name) {
+  const QString ordner =
+      spiel.DatenordnerAktiv ? QString::fromStdString(spiel.Datenordner) : Programmordner();
+  return MitBackslash(ordner) + name;
+}
+
+void LegeDatenordnerFest(Ansicht &ansicht) {
+  const QString wurzel = Datenwurzel();
+  if (wurzel.isEmpty()) {
+    ansicht.Melde(MeldungKeineFestplatte());
+    return;
+  }
+  const QString ordner = MitBackslash(wurzel) + "nachtkammern";
+  spiel.DatenordnerAktiv = true;
+  spiel.Datenordner = ordner.toStdString();
+  if (!ExistiertDatei(ordner)) {
+    LegeDatenordnerAn(ansicht, ordner);
+  }
+  Dialogordner = ordner;
+}
+
+void LegeDatenordnerAn(Ansicht &ansicht, const QString &pfad) {
+  if (ErstelleOrdner(pfad)) {
+    spiel.DatenordnerAktiv = true;
+  } else {
+    ansicht.Melde(MeldungOrdnerFehlgeschlagen());
+  }
+}

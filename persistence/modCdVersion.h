@@ -1,0 +1,18 @@
+/// @file
+/// The folder of all files that the program writes. Settled once, when the program starts.
+#pragma once
+
+#include <QString>
+
+#include "core/ansicht.h"
+
+/// The full path of a file of the game: in `Datenordner` while that is in use, else in the
+/// program's own folder. An empty name gives the folder itself, with its closing separator.
+QString Datenpfad(const QString &name);
+
+/// Settles `Datenordner`, `DatenordnerAktiv` and the folder of the file dialogs, and creates the
+/// folder if it is missing. Tells the player when the system has no place for it.
+void LegeDatenordnerFest(Ansicht &ansicht);
+
+/// Creates the data folder. A failure is told and changes nothing: later reads and writes fail.
+void LegeDatenordnerAn(Ansicht &ansicht, const QString &pfad);

@@ -1,0 +1,46 @@
+/// @file
+/// Small text files, read and written as a whole: lines ended by CR LF, one byte a character in the
+/// code page Windows-1252.
+/// Source of the code page: WHATWG Encoding Standard, index windows-1252.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+
+/// Outcome of a file operation. The numbers stand behind "Fehlernummer: " in the messages.
+enum class Dateifehler : int {
+  Keiner = 0,
+  NichtGefunden = 1,      ///< No such file.
+  ZugriffVerweigert = 2,  ///< Not allowed, or something that is no file bears the name.
+  PfadNichtGefunden = 3,  ///< The folder does not exist.
+  DatentraegerVoll = 4,   ///< No space left.
+  Dateiende = 5,          ///< Fewer lines than expected.
+  KeineZahl = 6,          ///< A text that is no whole number.
+  Zahlenbereich = 7,      ///< A whole number that is too small or too large.
+  Anderer = 8,            ///< Anything else, for instance a fault of the disk or an endless line.
+};
+
+/// Longest line that is read, in characters; longer than any text that the game can write.
+inline constexpr qsizetype kLaengsteZeile = 65536;
+
+/// Lines as they stood in the file, without their ends.
+struct Textzeilen {
+  QStringList Zeilen;  ///< After a failure: the lines read up to it.
+  Dateifehler Fehler = Dateifehler::Keiner;
+};
+
+/// Reads the first lines of a file. CR LF, LF and CR alone end a line, and the end of the file ends
+/// a last line that has characters. Every byte is one character, NUL included.
+/// @param anzahl   lines to be read; what follows them is not looked at. Fewer lines: `Dateiende`.
+Textzeilen LiesZeilen(const QString &pfad, int anzahl);
+
+/// Replaces a file by these lines, each ended by CR LF, as a whole or not at all: after any
+/// failure, even the end of the process, the old file is still there. Characters that the code page
+/// lacks and line ends within a text are written as "?".
+Dateifehler SchreibeZeilen(const QString &pfad, const QStringList &zeilen);
+
+/// Converts decimal digits with an optional leading "-" and blanks around them. On a failure,
+/// `KeineZahl` or `Zahlenbereich`, the value is left alone.
+Dateifehler LiesZahl(const QString &text, std::int16_t &wert);
+Dateifehler LiesZahl(const QString &text, std::int32_t &wert);
