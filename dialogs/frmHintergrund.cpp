@@ -1,0 +1,37 @@
+#include "dialogs/frmHintergrund.h"
+
+#include <QEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include "dialogs/bild.h"
+#include "dialogs/bilder.h"
+#include "platform/taskleiste.h"
+
+frmHintergrund::frmHintergrund(QWidget *hauptfenster)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), hauptfenster_(hauptfenster) {
+  const QScreen *schirm = hauptfenster->screen();
+  setGeometry(schirm->geometry());
+  setFixedSize(size());
+  const QPixmap &stein = Bilddatei("schreibtisch");
+  Image1 = stein.scaled((QSizeF(size()) * stein.devicePixelRatio()).toSize(), Qt::IgnoreAspectRatio,
+                        Qt::SmoothTransformation);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  winId();  // The window must exist before its entry in the task bar can be refused.
+  OhneTaskleiste(windowHandle());
+}
+
+void frmHintergrund::paintEvent(QPaintEvent *ereignis) {
+  Q_UNUSED(ereignis)
+  QPainter maler(this);
+  ZeichneGenau(maler, {0, 0}, Image1);
+}
+
+bool frmHintergrund::event(QEvent *ereignis) {
+  if (ereignis->type() == QEvent::WindowActivate || ereignis->type() == QEvent::MouseButtonPress) {
+    hauptfenster_->raise();
+    hauptfenster_->activateWindow();
+  }
+  return QWidget::event(ereignis);
+}

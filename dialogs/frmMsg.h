@@ -1,0 +1,51 @@
+/// @file
+/// The two message windows: `frmMsgJa` asks, `frmMsgOk` tells.
+#pragma once
+
+#include <cstdint>
+
+#include "core/meldungen.h"
+#include "dialogs/bildfenster.h"
+
+struct Meldelayout;
+
+/// What both windows have in common: a frameless picture with two texts, which is moved by its
+/// background and its title, and which waits for a key or a click.
+class Meldefenster : public Bildfenster {
+  Q_OBJECT
+
+ public:
+  /// Shows the window over the main window and returns when it has closed.
+  /// @param hauptfenster   null while there is none yet: the screen takes its place.
+  void ZeigeUeber(QWidget *hauptfenster);
+
+ protected:
+  Meldefenster(const Meldelayout &layout, const Meldung &meldung);
+
+  void mouseMoveEvent(QMouseEvent *ereignis) override;
+  void keyPressEvent(QKeyEvent *ereignis) override;
+  void closeEvent(QCloseEvent *ereignis) override;
+
+ private:
+  void Antworte(std::int16_t antwort);
+
+  const Meldelayout &layout_;
+  Lage lage_;
+};
+
+/// A question; `spiel.Antwort` holds the answer when the window has closed. Esc, the close picture
+/// and a close by the platform count as cancelled.
+class frmMsgJa : public Meldefenster {
+  Q_OBJECT
+
+ public:
+  explicit frmMsgJa(const Meldung &meldung);
+};
+
+/// An announcement; leaves `spiel.Antwort` alone.
+class frmMsgOk : public Meldefenster {
+  Q_OBJECT
+
+ public:
+  explicit frmMsgOk(const Meldung &meldung);
+};

@@ -1,0 +1,11 @@
+#include "dialogs/hilfe.h"
+
+#include "platform/modExistiertDatei.h"
+#include "platform/modShellExecute.h"
+#include "platform/pfade.h"
+
+void OeffneHilfe(const QString &name) {
+  const QString pfad = MitBackslash(Programmordner()) + name;
+  if (ExistiertDatei(pfad))
+    OeffneDokument(pfad);
+}

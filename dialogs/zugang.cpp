@@ -1,0 +1,102 @@
+#include "dialogs/zugang.h"
+
+#include <QAccessibleWidget>
+#include <QTimer>
+
+#include "dialogs/bild.h"
+#include "dialogs/bildfenster.h"
+#include "dialogs/zifferreihe.h"
+
+namespace {
+
+/// A control whose hidden children do not exist for assistive technology.
+class Zugang : public QAccessibleWidget {
+ public:
+  using QAccessibleWidget::QAccessibleWidget;
+
+  int childCount() const override { return static_cast<int>(Kinder().size()); }
+
+  QAccessibleInterface *child(int index) const override {
+    return QAccessible::queryAccessibleInterface(Kinder().value(index));
+  }
+
+  int indexOfChild(const QAccessibleInterface *kind) const override {
+    return static_cast<int>(Kinder().indexOf(qobject_cast<QWidget *>(kind->object())));
+  }
+
+ private:
+  QList<QWidget *> Kinder() const {
+    QList<QWidget *> kinder;
+    for (QObject *objekt : widget()->children()) {
+      auto *kind = qobject_cast<QWidget *>(objekt);
+      if (kind && !kind->isWindow() && !kind->isHidden())
+        kinder.append(kind);
+    }
+    return kinder;
+  }
+};
+
+class ZugangBild : public Zugang {
+ public:
+  explicit ZugangBild(Bild *bild) : Zugang(bild, bild->Rolle()) {}
+
+  QString text(QAccessible::Text art) const override {
+    return art == QAccessible::Name ? Das().Ansage() : Zugang::text(art);
+  }
+
+  QAccessible::State state() const override {
+    QAccessible::State zustand = Zugang::state();
+    const bool wahl = role() == QAccessible::RadioButton || role() == QAccessible::CheckBox;
+    zustand.checkable = wahl;
+    zustand.checked = wahl && Das().IstGewaehlt();
+    return zustand;
+  }
+
+  QStringList actionNames() const override {
+    QStringList namen;
+    if (Das().IstBedienbar())
+      namen << pressAction();
+    if (Das().IstZweitastig())
+      namen << showMenuAction();
+    return namen;
+  }
+
+  void doAction(const QString &name) override {
+    if (!actionNames().contains(name))
+      return;
+    // The caller waits for an answer, and a click may open a window that stays.
+    const Qt::MouseButton taste = name == pressAction() ? Qt::LeftButton : Qt::RightButton;
+    QTimer::singleShot(0, &Das(), [bild = &Das(), taste] { bild->Bediene(taste); });
+  }
+
+ private:
+  Bild &Das() const { return *static_cast<Bild *>(object()); }
+};
+
+class ZugangZiffern : public QAccessibleWidget {
+ public:
+  explicit ZugangZiffern(Zifferreihe *reihe) : QAccessibleWidget(reihe, QAccessible::StaticText) {}
+
+  QString text(QAccessible::Text art) const override {
+    if (art != QAccessible::Name)
+      return QAccessibleWidget::text(art);
+    return static_cast<Zifferreihe *>(object())->Ansage();
+  }
+};
+
+QAccessibleInterface *Fabrik(const QString &klasse, QObject *objekt) {
+  Q_UNUSED(klasse)
+  if (auto *bild = qobject_cast<Bild *>(objekt))
+    return new ZugangBild(bild);
+  if (auto *reihe = qobject_cast<Zifferreihe *>(objekt))
+    return new ZugangZiffern(reihe);
+  if (auto *fenster = qobject_cast<Bildfenster *>(objekt))
+    return new Zugang(fenster, QAccessible::Dialog);
+  return nullptr;
+}
+
+}  // namespace
+
+void RichteZugangEin() {
+  QAccessible::installFactory(Fabrik);
+}

@@ -1,0 +1,14 @@
+/// @file
+/// The start of the program.
+#pragma once
+
+class QApplication;
+class frmSpielfeld;
+
+/// Makes the application German in every word on a machine of any language, and lets assistive
+/// technology see the game's own controls.
+void RichteAnwendungEin(QApplication &anwendung);
+
+/// Brings the record to its initial values, finds the place for the data, reads them, and shows the
+/// main window in its waiting state.
+void Main(frmSpielfeld &fenster);

@@ -1,0 +1,86 @@
+#include "tests/fensterprobe.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+
+#include "core/zug.h"
+#include "persistence/modBeste.h"
+#include "shell/iniMain.h"
+
+Fensterprobe::Fensterprobe() {
+  qputenv("XDG_DATA_HOME", ordner.path().toUtf8());
+  spiel = {};
+  BestenEintrag = false;
+  QObject::connect(&takt, &QTimer::timeout, [this] { BedieneFenster(); });
+  takt.start(1);
+}
+
+Fensterprobe::~Fensterprobe() {
+  EXPECT_TRUE(geplant.empty()) << "a window that was expected did not open";
+  spielfeld.reset();
+  for (QWidget *fenster : QApplication::topLevelWidgets())
+    delete fenster;
+}
+
+void Fensterprobe::Starte() {
+  spielfeld = std::make_unique<frmSpielfeld>();
+  Main(*spielfeld);
+}
+
+void Fensterprobe::BedieneFenster() {
+  QWidget *fenster = QApplication::activeModalWidget();
+  std::erase_if(bedient, [](const auto &f) { return !f || !f->isVisible(); });
+  if (!fenster || std::find(bedient.begin(), bedient.end(), fenster) != bedient.end())
+    return;
+  bedient.emplace_back(fenster);
+  if (geplant.empty()) {
+    ADD_FAILURE() << "unexpected window " << fenster->metaObject()->className();
+    fenster->close();
+    return;
+  }
+  const auto handlung = geplant.front();
+  geplant.pop_front();
+  ++gesehen;
+  // A timer does not tick while its own tick is handled, and the action may open the next window.
+  QTimer::singleShot(0, fenster, [handlung, fenster] { handlung(fenster); });
+}
+
+void Fensterprobe::GewinneLevel() {
+  for (int n = 1; n <= kZellen; ++n) {
+    if (spiel.Feld.at(static_cast<std::size_t>(n)).IstSarant &&
+        spielfeld->LiesKachel(n) == Kachel::Verdeckt)
+      Klick(Zelle(n));
+  }
+  ASSERT_TRUE(spielfeld->IstSichtbar(Bedienung::imgNextLevel));
+}
+
+void Fensterprobe::VerliereLevel() {
+  for (int n = 1; n <= kZellen; ++n) {
+    if (!spiel.Feld.at(static_cast<std::size_t>(n)).IstSarant &&
+        spielfeld->LiesKachel(n) == Kachel::Verdeckt)
+      Klick(Zelle(n));
+  }
+  ASSERT_TRUE(spielfeld->IstSichtbar(Bedienung::cmdWiederholen));
+}
+
+QByteArray Fensterprobe::Inhalt(const QString &pfad) {
+  QFile datei(pfad);
+  EXPECT_TRUE(datei.open(QIODevice::ReadOnly)) << pfad.toStdString();
+  return datei.readAll();
+}
+
+void Fensterprobe::Schreibe(const QString &pfad, const QByteArray &inhalt) {
+  QDir().mkpath(QFileInfo(pfad).path());
+  QFile datei(pfad);
+  ASSERT_TRUE(datei.open(QIODevice::WriteOnly)) << pfad.toStdString();
+  datei.write(inhalt);
+}
+
+int main(int argc, char *argv[]) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  testing::InitGoogleTest(&argc, argv);
+  QApplication anwendung(argc, argv);
+  RichteAnwendungEin(anwendung);
+  return RUN_ALL_TESTS();
+}
