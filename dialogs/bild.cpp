@@ -68,10 +68,13 @@ void Bild::Bediene(Qt::MouseButton taste) {
 
 void Bild::paintEvent(QPaintEvent *ereignis) {
   Q_UNUSED(ereignis)
-  if (!bild_)
-    return;
   QPainter maler(this);
-  ZeichneGenau(maler, {0, 0}, *bild_);
+  if (bild_)
+    ZeichneGenau(maler, {0, 0}, *bild_);
+  if (hasFocus()) {  // Only the keyboard of assistive technology brings the focus here.
+    maler.setPen(QPen(QColor(kBlau), 3));
+    maler.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
+  }
 }
 
 void Bild::mousePressEvent(QMouseEvent *ereignis) {

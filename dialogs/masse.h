@@ -32,7 +32,7 @@ inline constexpr QRgb kBlau = 0xff0000ff;
 inline constexpr QRgb kDunkelblau = 0xff0000c0;
 inline constexpr QRgb kDunkelgruen = 0xff006400;
 inline constexpr QRgb kHellgrau = 0xffd8dce4;
-inline constexpr QRgb kMagenta = 0xffff00ff;
+inline constexpr QRgb kMagenta = 0xffd000d0;
 inline constexpr QRgb kPurpur = 0xffc000c0;
 
 /// One row of a window's table of texts.

@@ -49,6 +49,7 @@ class ZugangBild : public Zugang {
     const bool wahl = role() == QAccessible::RadioButton || role() == QAccessible::CheckBox;
     zustand.checkable = wahl;
     zustand.checked = wahl && Das().IstGewaehlt();
+    zustand.focusable = Das().IstBedienbar();
     return zustand;
   }
 

@@ -294,6 +294,9 @@ frmSpielfeld::frmSpielfeld() {
   KnoepfeAufbauen(flaeche);
   PanelAufbauen(flaeche);
   MenueAufbauen();
+  tastatur_ = std::make_unique<Tastatur>(
+      flaeche, std::vector<QWidget *>(imgSar_.begin() + 1, imgSar_.end()),
+      [this](bool spalte, int linie) { return Zahlen(spalte, linie); });
   for (const Bedienung bedienung : {Bedienung::imgNextLevel, Bedienung::cmdWiederholen,
                                     Bedienung::imgSpeichern, Bedienung::imgBester})
     Zeige(bedienung, false);
@@ -390,6 +393,20 @@ void frmSpielfeld::MenueAufbauen() {
   mnuInfo[4] = mnuMenue3->addAction("&Beste Spieler...");
   for (const auto &[eintrag, aktion] : mnuInfo)
     connect(aktion, &QAction::triggered, this, [this, n = eintrag] { mnuInfo_Click(n); });
+}
+
+QString frmSpielfeld::Zahlen(bool spalte, int linie) const {
+  QStringList zahlen;
+  for (int platz = 1; platz <= kZahlfelder; ++platz) {
+    const Zahlfeld feld = ZahlfeldVon(platz);
+    const Bild *bild = imgDiggi_.at(Index(platz));
+    if (feld.spalte == spalte && feld.linie == linie && !bild->isHidden())
+      zahlen.prepend(QString::number(ZahlVon(bild->GezeigtesBild())));
+  }
+  return QString("%1 %2: %3")
+      .arg(spalte ? "Spalte" : "Zeile")
+      .arg(linie)
+      .arg(zahlen.isEmpty() ? "leer" : zahlen.join(", "));
 }
 
 void frmSpielfeld::ZeigeModuswahl() {
@@ -515,6 +532,15 @@ void frmSpielfeld::BeendeDasSpiel() {
 void frmSpielfeld::closeEvent(QCloseEvent *ereignis) {
   ereignis->accept();
   Form_Unload();
+}
+
+void frmSpielfeld::keyPressEvent(QKeyEvent *ereignis) {
+  if (!tastatur_->Druecke(*ereignis))
+    QMainWindow::keyPressEvent(ereignis);
+}
+
+bool frmSpielfeld::focusNextPrevChild(bool vorwaerts) {
+  return tastatur_->WechsleBereich(vorwaerts);
 }
 
 void frmSpielfeld::Form_Unload() {

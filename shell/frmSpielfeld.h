@@ -11,6 +11,7 @@
 
 #include "core/ansicht.h"
 #include "dialogs/wahlgruppe.h"
+#include "shell/tastatur.h"
 
 class Bild;
 class QAction;
@@ -53,6 +54,8 @@ class frmSpielfeld : public QMainWindow, public Ansicht {
 
  protected:
   void closeEvent(QCloseEvent *ereignis) override;
+  void keyPressEvent(QKeyEvent *ereignis) override;
+  bool focusNextPrevChild(bool vorwaerts) override;
 
  private:
   struct Knopfzeile;
@@ -62,6 +65,8 @@ class frmSpielfeld : public QMainWindow, public Ansicht {
   void PanelAufbauen(QWidget *flaeche);
   void FeldAufbauen(QWidget *flaeche);
   void MenueAufbauen();
+  /// The visible numbers of a line, from the left or from the top.
+  QString Zahlen(bool spalte, int linie) const;
   void Form_Unload();
 
   void imgOeffnen_Click();
@@ -89,6 +94,7 @@ class frmSpielfeld : public QMainWindow, public Ansicht {
   std::array<Zifferreihe *, 3> imgAuswertung_{};  ///< Places 0 and 1, 2 and 3, 4 and 5.
   QLabel *lblModus_ = nullptr;
   std::unique_ptr<Wahlgruppe> imgModus_;
+  std::unique_ptr<Tastatur> tastatur_;
   std::map<int, QAction *> mnuSpiel_;
   std::map<int, QAction *> mnusoundan_;
   QAction *mnuSound_ = nullptr;
