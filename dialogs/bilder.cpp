@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "core/ansicht.h"
+#include "dialogs/masse.h"
 
 namespace {
 
@@ -35,12 +36,13 @@ QString Ressource(const QString &name, int aufloesung) {
 /// The picture in exact device pixels: taken as rendered, or scaled down once from the next larger
 /// rendering if the ratio is a fraction.
 QPixmap Lade(const QString &name, double geraetepixel) {
-  int aufloesung = std::clamp(static_cast<int>(std::ceil(geraetepixel)), 1, kHoechsteAufloesung);
+  const double vergroesserung = geraetepixel * Massstab();
+  int aufloesung = std::clamp(static_cast<int>(std::ceil(vergroesserung)), 1, kHoechsteAufloesung);
   while (aufloesung > 1 && !QFile::exists(Ressource(name, aufloesung)))
     --aufloesung;
   QImage bild(Ressource(name, aufloesung));
   ++DerKatalog().geladen;
-  const QSize ziel = (QSizeF(bild.size()) * geraetepixel / aufloesung).toSize();
+  const QSize ziel = (QSizeF(bild.size()) * vergroesserung / aufloesung).toSize();
   if (ziel != bild.size())
     bild = bild.scaled(ziel, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   QPixmap fertig = QPixmap::fromImage(std::move(bild));

@@ -9,10 +9,20 @@ namespace {
 constexpr int kTwipsJePixel = 15;
 constexpr int kVersatz = 100;  // twips
 
+double massstab = 1;
+
 }  // namespace
 
+double Massstab() {
+  return massstab;
+}
+
+void StelleMassstab(double faktor) {
+  massstab = faktor;
+}
+
 int Pixel(int twips) {
-  return qRound(static_cast<double>(twips) / kTwipsJePixel);
+  return qRound(massstab * twips / kTwipsJePixel);
 }
 
 QRect Rechteck(const Twips &lage) {
@@ -21,7 +31,7 @@ QRect Rechteck(const Twips &lage) {
 
 QFont Schrift(double punkt, bool fett) {
   QFont schrift("Arial");
-  schrift.setPixelSize(qRound(punkt * 96 / 72));
+  schrift.setPixelSize(qRound(massstab * punkt * 96 / 72));
   schrift.setBold(fett);
   return schrift;
 }

@@ -19,6 +19,11 @@ struct Twips {
   int height = 0;
 };
 
+/// The factor by which every window and picture is smaller than told; 1 at the start.
+double Massstab();
+/// Must be called before the first window or picture is made. @param faktor above 0, at most 1.
+void StelleMassstab(double faktor);
+
 /// The pixels of a length, rounded to the nearest.
 int Pixel(int twips);
 /// The rectangle of a position in pixels.

@@ -22,27 +22,15 @@
 
 namespace {
 
-constexpr const char *kQtMassstab = "QT_SCALE_FACTOR";
-
-/// What the main window takes: its client area, its menu bar, and the frame around it in pixels of
-/// the screen, which does not shrink.
-constexpr QSize kFlaeche(878, 729);
-constexpr int kMenueleiste = 24;
-constexpr QSize kRahmen(8, 36);
+constexpr QSize kFlaeche(878, 729);  ///< The client area of the main window.
+constexpr QSize kRahmen(8, 60);      ///< What its frame and its menu bar take; they do not shrink.
 
 }  // namespace
 
 double Schrumpffaktor() {
-  const QScreen *schirm = QGuiApplication::primaryScreen();
-  const QSizeF frei =
-      schirm->availableGeometry().size() - QSizeF(kRahmen) / schirm->devicePixelRatio();
+  const QSize frei = QGuiApplication::primaryScreen()->availableSize() - kRahmen;
   return std::min(
-      {1.0, frei.width() / kFlaeche.width(), frei.height() / (kFlaeche.height() + kMenueleiste)});
-}
-
-void StelleMassstabEin(double faktor) {
-  const double bisher = qEnvironmentVariable(kQtMassstab, "1").toDouble();
-  qputenv(kQtMassstab, QByteArray::number(faktor * bisher));
+      {1.0, 1.0 * frei.width() / kFlaeche.width(), 1.0 * frei.height() / kFlaeche.height()});
 }
 
 void RichteAnwendungEin(QApplication &anwendung) {

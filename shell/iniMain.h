@@ -7,8 +7,6 @@ class frmSpielfeld;
 
 /// By how much all windows must shrink so that the main window fits on the screen; at most 1.
 double Schrumpffaktor();
-/// Multiplies the scale of the applications that begin after this call.
-void StelleMassstabEin(double faktor);
 
 /// Makes the application German in every word on a machine of any language, and lets assistive
 /// technology see the game's own controls.
