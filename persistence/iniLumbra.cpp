@@ -24,7 +24,6 @@ void LeseIni(Ansicht &ansicht) {
                        LiesZahl(datei.Zeilen[0], modus) == Dateifehler::Keiner;
   const bool gueltig = modus == kUngelesen || IstModus(modus);
   spiel.Spielmodus = IstModus(modus) ? modus : kModusNormal;
-  if (gelesen && gueltig) {
+  if (gelesen && gueltig)
     ansicht.SetzeModustext(Moduszeile(3));
-  }
 }

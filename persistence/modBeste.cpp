@@ -39,9 +39,8 @@ QString BestenlistePfad() {
 
 void BestenlisteAnlegen() {
   QStringList zeilen(kBeste, kNiemand);
-  for (int platz = 0; platz < kBeste; ++platz) {
+  for (int platz = 0; platz < kBeste; ++platz)
     zeilen.append(QString::number(kBesteVorgabe - platz * kVorgabeabstand));
-  }
   SchreibeZeilen(BestenlistePfad(), zeilen);
 }
 
@@ -52,9 +51,8 @@ void BestenlisteLaden(Ansicht &ansicht) {
   const Dateifehler fehler = datei.Fehler == Dateifehler::Keiner
                                  ? LiesZahl(lstPunkte[kLetzter], spiel.Bestenschwelle)
                                  : datei.Fehler;
-  if (fehler != Dateifehler::Keiner) {
+  if (fehler != Dateifehler::Keiner)
     ansicht.Melde(MeldungBesteNichtGelesen(static_cast<int>(fehler)));
-  }
 }
 
 void BestenlisteSpeichern(Ansicht &ansicht) {
@@ -64,29 +62,25 @@ void BestenlisteSpeichern(Ansicht &ansicht) {
     namen.append(LiesEintrag(platz).Name);
     punkte.append(LiesEintrag(platz).Punkte);
   }
-  if (SchreibeZeilen(BestenlistePfad(), namen + punkte) == Dateifehler::Keiner) {
+  if (SchreibeZeilen(BestenlistePfad(), namen + punkte) == Dateifehler::Keiner)
     spiel.Bestenschwelle = PunkteWert(punkte[kLetzter]);
-  } else {
+  else
     ansicht.Melde(MeldungBesteNichtGespeichert());
-  }
 }
 
 void BestenlistePruefen(Ansicht &ansicht) {
   BestenEintrag = false;
   BestenPlatz = -1;
-  for (std::int16_t platz = 0; platz < kBeste && BestenPlatz < 0; ++platz) {
-    if (spiel.Punkte > PunkteWert(lstPunkte.value(platz))) {
+  for (std::int16_t platz = 0; platz < kBeste && BestenPlatz < 0; ++platz)
+    if (spiel.Punkte > PunkteWert(lstPunkte.value(platz)))
       BestenPlatz = platz;
-    }
-  }
   if (BestenPlatz < 0) {
     ansicht.Melde(MeldungKeinBesteneintrag());
     return;
   }
   BestenEintrag = ansicht.Frage(FrageBesteneintrag());
-  if (BestenEintrag) {
+  if (BestenEintrag)
     BestenlisteEintragen(ansicht);
-  }
 }
 
 void BestenlisteEintragen(Ansicht &ansicht) {

@@ -19,16 +19,14 @@ void LegeDatenordnerFest(Ansicht &ansicht) {
   const QString ordner = MitBackslash(wurzel) + "nachtkammern";
   spiel.DatenordnerAktiv = true;
   spiel.Datenordner = ordner.toStdString();
-  if (!ExistiertDatei(ordner)) {
+  if (!ExistiertDatei(ordner))
     LegeDatenordnerAn(ansicht, ordner);
-  }
   Dialogordner = ordner;
 }
 
 void LegeDatenordnerAn(Ansicht &ansicht, const QString &pfad) {
-  if (ErstelleOrdner(pfad)) {
+  if (ErstelleOrdner(pfad))
     spiel.DatenordnerAktiv = true;
-  } else {
+  else
     ansicht.Melde(MeldungOrdnerFehlgeschlagen());
-  }
 }

@@ -27,22 +27,18 @@ Spielstand LiesSpielstand(const QString &pfad) {
   const Textzeilen datei = LiesZeilen(pfad, 3);
   Spielstand stand;
   stand.Fehler = datei.Fehler;
-  if (stand.Fehler == Dateifehler::Keiner) {
+  if (stand.Fehler == Dateifehler::Keiner)
     stand.Fehler = LiesZahl(datei.Zeilen[0], stand.Level);
-  }
-  if (stand.Fehler == Dateifehler::Keiner) {
+  if (stand.Fehler == Dateifehler::Keiner)
     stand.Fehler = LiesZahl(datei.Zeilen[2], stand.Modus);
-  }
-  if (stand.Fehler != Dateifehler::Keiner) {
+  if (stand.Fehler != Dateifehler::Keiner)
     return stand;
-  }
   stand.Punkte = datei.Zeilen[1];
   // The level that follows must be a level and fit in 16 bits.
   const bool levelGueltig =
       stand.Level >= 0 && stand.Level < std::numeric_limits<std::int16_t>::max();
-  if (!levelGueltig || !IstModus(stand.Modus)) {
+  if (!levelGueltig || !IstModus(stand.Modus))
     stand.Fehler = Dateifehler::Zahlenbereich;
-  }
   return stand;
 }
 
@@ -57,17 +53,15 @@ bool SpielstandVorhanden() {
 }
 
 void SucheSpielstand(Ansicht &ansicht, bool &weiter) {
-  if (!SpielstandVorhanden() && !ansicht.Frage(FrageSucheSpielstand())) {
+  if (!SpielstandVorhanden() && !ansicht.Frage(FrageSucheSpielstand()))
     weiter = false;
-  }
 }
 
 void LadeGewaehlteDatei(Ansicht &ansicht, const QString &pfad) {
-  if (pfad.endsWith(kEndung)) {
+  if (pfad.endsWith(kEndung))
     LadeSpielstand(ansicht, pfad);
-  } else {
+  else
     ansicht.Melde(MeldungFalscherDateityp(Dateititel(pfad).toStdString()));
-  }
 }
 
 void LadeSpielstand(Ansicht &ansicht, const QString &pfad) {
@@ -76,9 +70,8 @@ void LadeSpielstand(Ansicht &ansicht, const QString &pfad) {
     MeldeLesefehler(ansicht, stand.Fehler);
     return;
   }
-  if (!ansicht.Frage(FrageLaden(stand.Level + 1, stand.Modus, stand.Punkte.toStdString()))) {
+  if (!ansicht.Frage(FrageLaden(stand.Level + 1, stand.Modus, stand.Punkte.toStdString())))
     return;
-  }
   spiel.Level = stand.Level;
   const Dateifehler fehler = LiesZahl(stand.Punkte, spiel.Punkte);
   if (fehler != Dateifehler::Keiner) {
@@ -101,7 +94,6 @@ void SpeichereSpielstand(Ansicht &ansicht, const QString &pfad) {
   const Dateifehler fehler =
       SchreibeZeilen(pfad, {QString::number(spiel.Level), QString::number(SummePunkte()),
                             QString::number(spiel.Spielmodus)});
-  if (fehler != Dateifehler::Keiner) {
+  if (fehler != Dateifehler::Keiner)
     ansicht.Melde(MeldungSchreibfehler(static_cast<int>(fehler)));
-  }
 }

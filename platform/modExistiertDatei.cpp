@@ -6,9 +6,8 @@
 #include <system_error>
 
 bool ExistiertDatei(const QString &pfad) {
-  if (pfad.isEmpty()) {
+  if (pfad.isEmpty())
     return false;
-  }
   const QFileInfo datei(pfad);
   std::error_code unbeachtet;
   const auto zustand = std::filesystem::status(datei.filesystemFilePath(), unbeachtet);

@@ -19,12 +19,10 @@ class DeutscheSpalten : public QIdentityProxyModel {
     const auto *dateien = qobject_cast<const QFileSystemModel *>(sourceModel());
     const QModelIndex datei = mapToSource(index);
     const QLocale deutsch(QLocale::German);
-    if (rolle == Qt::DisplayRole && index.column() == kGroesse && !dateien->isDir(datei)) {
+    if (rolle == Qt::DisplayRole && index.column() == kGroesse && !dateien->isDir(datei))
       return deutsch.formattedDataSize(dateien->size(datei));
-    }
-    if (rolle == Qt::DisplayRole && index.column() == kDatum) {
+    if (rolle == Qt::DisplayRole && index.column() == kDatum)
       return deutsch.toString(dateien->lastModified(datei), QLocale::ShortFormat);
-    }
     return QIdentityProxyModel::data(index, rolle);
   }
 

@@ -53,9 +53,8 @@ bool SoundGeraetDa() {
 
 void SpieleSound(int n) {
   const auto index = static_cast<std::size_t>(n - 1);
-  if (index >= SoundDateien.size() || SoundDateien[index].isEmpty() || !SoundGeraetDa()) {
+  if (index >= SoundDateien.size() || SoundDateien[index].isEmpty() || !SoundGeraetDa())
     return;
-  }
   // An effect is bound to the device that it was loaded for, and the default device may have
   // changed since the last one.
   delete Effekt;

@@ -6,9 +6,8 @@
 #include <QStandardPaths>
 
 QString MitBackslash(const QString &pfad) {
-  if (pfad.isEmpty() || pfad.endsWith(u'/') || pfad.endsWith(QDir::separator())) {
+  if (pfad.isEmpty() || pfad.endsWith(u'/') || pfad.endsWith(QDir::separator()))
     return pfad;
-  }
   return pfad + QDir::separator();
 }
 

@@ -26,13 +26,11 @@ QChar Dekodiert(char byte) {
 }
 
 char Kodiert(char32_t zeichen) {
-  if (zeichen == U'\r' || zeichen == U'\n') {
+  if (zeichen == U'\r' || zeichen == U'\n')
     return '?';  // It would shift all lines behind it.
-  }
   const bool besonders = zeichen - kErstesBesondere < kBesondere.size();
-  if (zeichen <= 0xFF && !besonders) {
+  if (zeichen <= 0xFF && !besonders)
     return static_cast<char>(zeichen);
-  }
   const auto fund = std::find(kBesondere.begin(), kBesondere.end(), zeichen);
   return fund == kBesondere.end()
              ? '?'
@@ -49,19 +47,16 @@ bool IstKeineDatei(const QString &pfad) {
 
 /// Why a file could not be opened; Qt does not tell the causes apart.
 Dateifehler Oeffnungsfehler(const QString &pfad) {
-  if (!QFileInfo(QFileInfo(pfad).path()).isDir()) {
+  if (!QFileInfo(QFileInfo(pfad).path()).isDir())
     return Dateifehler::PfadNichtGefunden;
-  }
   return ExistiertDatei(pfad) ? Dateifehler::ZugriffVerweigert : Dateifehler::NichtGefunden;
 }
 
 Dateifehler Schreibfehler(const QSaveFile &datei) {
-  if (datei.error() == QFileDevice::ResourceError) {
+  if (datei.error() == QFileDevice::ResourceError)
     return Dateifehler::DatentraegerVoll;
-  }
-  if (datei.error() == QFileDevice::WriteError && datei.isOpen()) {
+  if (datei.error() == QFileDevice::WriteError && datei.isOpen())
     return Dateifehler::Anderer;
-  }
   const Dateifehler fehler = Oeffnungsfehler(datei.fileName());
   // That a new file does not exist yet is not why it cannot be written.
   return fehler == Dateifehler::NichtGefunden ? Dateifehler::ZugriffVerweigert : fehler;
@@ -72,20 +67,16 @@ Dateifehler Konvertiert(const QString &text, Zahl &wert) {
   const QByteArray ziffern = text.toLatin1();
   const char *anfang = ziffern.begin();
   const char *ende = ziffern.end();
-  while (anfang != ende && *anfang == ' ') {
+  while (anfang != ende && *anfang == ' ')
     ++anfang;
-  }
-  while (anfang != ende && ende[-1] == ' ') {
+  while (anfang != ende && ende[-1] == ' ')
     --ende;
-  }
   Zahl zahl = 0;
   const auto [rest, fehler] = std::from_chars(anfang, ende, zahl);
-  if (fehler == std::errc::invalid_argument || rest != ende) {
+  if (fehler == std::errc::invalid_argument || rest != ende)
     return Dateifehler::KeineZahl;
-  }
-  if (fehler != std::errc()) {
+  if (fehler != std::errc())
     return Dateifehler::Zahlenbereich;
-  }
   wert = zahl;
   return Dateifehler::Keiner;
 }
@@ -94,9 +85,8 @@ Dateifehler Konvertiert(const QString &text, Zahl &wert) {
 
 Textzeilen LiesZeilen(const QString &pfad, int anzahl) {
   QFile datei(pfad);
-  if (IstKeineDatei(pfad) || !datei.open(QIODevice::ReadOnly)) {
+  if (IstKeineDatei(pfad) || !datei.open(QIODevice::ReadOnly))
     return {{}, Oeffnungsfehler(pfad)};
-  }
   Textzeilen gelesen;
   QString zeile;
   char byte = 0;
@@ -104,9 +94,8 @@ Textzeilen LiesZeilen(const QString &pfad, int anzahl) {
   while (gelesen.Zeilen.size() < anzahl && datei.getChar(&byte)) {
     const bool zweiteHaelfte = nachCr && byte == '\n';
     nachCr = byte == '\r';
-    if (zweiteHaelfte) {
+    if (zweiteHaelfte)
       continue;
-    }
     if (byte == '\r' || byte == '\n') {
       gelesen.Zeilen.append(zeile);
       zeile.clear();
@@ -121,24 +110,20 @@ Textzeilen LiesZeilen(const QString &pfad, int anzahl) {
     gelesen.Fehler = Dateifehler::Anderer;
     return gelesen;
   }
-  if (!zeile.isEmpty()) {
+  if (!zeile.isEmpty())
     gelesen.Zeilen.append(zeile);
-  }
-  if (gelesen.Zeilen.size() < anzahl) {
+  if (gelesen.Zeilen.size() < anzahl)
     gelesen.Fehler = Dateifehler::Dateiende;
-  }
   return gelesen;
 }
 
 Dateifehler SchreibeZeilen(const QString &pfad, const QStringList &zeilen) {
   QSaveFile datei(pfad);
-  if (IstKeineDatei(pfad) || !datei.open(QIODevice::WriteOnly)) {
+  if (IstKeineDatei(pfad) || !datei.open(QIODevice::WriteOnly))
     return Schreibfehler(datei);
-  }
   for (const QString &zeile : zeilen) {
-    for (const char32_t zeichen : zeile.toUcs4()) {
+    for (const char32_t zeichen : zeile.toUcs4())
       datei.putChar(Kodiert(zeichen));
-    }
     datei.write("\r\n");
   }
   // commit() would lose a failure of the last flush and replace the old file by a short one.

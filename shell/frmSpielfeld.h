@@ -18,7 +18,7 @@ class QAction;
 class QLabel;
 class Zifferreihe;
 
-class frmSpielfeld : public QMainWindow, public Ansicht {
+class frmSpielfeld final : public QMainWindow, public Ansicht {
   Q_OBJECT
 
  public:

@@ -79,6 +79,7 @@ void Fensterprobe::Schreibe(const QString &pfad, const QByteArray &inhalt) {
 
 int main(int argc, char *argv[]) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("LC_ALL", "fr_FR.UTF-8");  // Any language but German.
   testing::InitGoogleTest(&argc, argv);
   QApplication anwendung(argc, argv);
   RichteAnwendungEin(anwendung);

@@ -32,7 +32,6 @@ inline QByteArray Bytes(const std::uint8_t *daten, std::size_t groesse) {
 
 /// Ends the run as a finding.
 inline void Verlange(bool bedingung) {
-  if (!bedingung) {
+  if (!bedingung)
     std::abort();
-  }
 }

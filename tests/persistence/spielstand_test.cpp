@@ -47,9 +47,8 @@ TEST_F(Spielstand, LaedtAusJederPhaseInEineSaubereSpielphase) {
     EXPECT_EQ(spiel.Spielmodus, 3);
     EXPECT_EQ(spiel.SarantenRest, 76 - 13 - spiel.Startfelder);
     for (const Bedienung weg :
-         {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern}) {
+         {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern})
       EXPECT_FALSE(ansicht.IstSichtbar(weg));
-    }
     EXPECT_FALSE(ansicht.speichernErlaubt);
     EXPECT_EQ(ansicht.timer[Pfeil::Start] + ansicht.timer[Pfeil::Weiter], 0);
   }

@@ -85,17 +85,15 @@ TEST_F(Stoerung, EtwasFehlt) {
 }
 
 TEST_F(Stoerung, OrdnerAnStelleDerDatei) {
-  for (const QString &pfad : Dateien()) {
+  for (const QString &pfad : Dateien())
     QDir().mkdir(pfad);
-  }
   ErwarteLesefehler(2);
   ErwarteSchreibfehler(2);
 }
 
 TEST_F(Stoerung, RechteFehlen) {
-  for (const QString &pfad : Dateien()) {
+  for (const QString &pfad : Dateien())
     Lege(pfad, "alt");
-  }
   chmod(qPrintable(ordner), 0555);
   OhneVorrechte([&] {
     ErwarteSchreibfehler(2);
@@ -103,9 +101,8 @@ TEST_F(Stoerung, RechteFehlen) {
     ErwarteMeldung(MeldungOrdnerFehlgeschlagen());
   });
   chmod(qPrintable(ordner), 0777);
-  for (const QString &pfad : Dateien()) {
+  for (const QString &pfad : Dateien())
     chmod(qPrintable(pfad), 0);
-  }
   OhneVorrechte([&] {
     ErwarteSchreibfehler(2);
     ErwarteLesefehler(2);
@@ -121,9 +118,8 @@ TEST_F(Stoerung, DatentraegerVoll) {
   enum Ausgang { Bestanden, Durchgefallen, Unmoeglich };
   const pid_t kind = fork();
   if (kind == 0) {
-    if (!HaengeKleinenDatentraegerEin(ordner)) {
+    if (!HaengeKleinenDatentraegerEin(ordner))
       _exit(Unmoeglich);
-    }
     Lege(ordner + "/ballast", QByteArray(4096, 'x'));
     ErwarteSchreibfehler(4);
     EXPECT_EQ(QDir(ordner).entryList(QDir::Files), QStringList("ballast"));
@@ -131,9 +127,8 @@ TEST_F(Stoerung, DatentraegerVoll) {
   }
   int status = 0;
   waitpid(kind, &status, 0);
-  if (WIFEXITED(status) && WEXITSTATUS(status) == Unmoeglich) {
+  if (WIFEXITED(status) && WEXITSTATUS(status) == Unmoeglich)
     GTEST_SKIP() << "no file system may be mounted here";
-  }
   EXPECT_EQ(status, 0);
 }
 

@@ -22,9 +22,8 @@ QString Bediene(Oeffner oeffner, const std::function<void(QFileDialog &, QLineEd
   QTimer::singleShot(0, [&] {
     auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
     spieler(*dialog, *dialog->findChild<QLineEdit *>("fileNameEdit"));
-    if (dialog->isVisible()) {
+    if (dialog->isVisible())
       dialog->reject();
-    }
   });
   return oeffner(nullptr);
 }
@@ -69,9 +68,8 @@ TEST(Dateidialog, SpaltenSindDeutsch) {
   Dialogordner = ordner.path();
   Bediene(DateiOeffnenDialog, [](QFileDialog &dialog, QLineEdit &) {
     const auto *liste = dialog.findChild<QTreeView *>("treeView");
-    while (liste->model()->rowCount(liste->rootIndex()) == 0) {
+    while (liste->model()->rowCount(liste->rootIndex()) == 0)
       QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
     EXPECT_EQ(liste->model()->index(0, 1, liste->rootIndex()).data(), "0 Bytes");
     EXPECT_EQ(liste->model()->index(0, 3, liste->rootIndex()).data(), "04.05.26 13:02");
   });

@@ -47,8 +47,7 @@ TEST(ExistiertDatei, NurEinFehlenderNameImVorhandenenOrdnerFehlt) {
   Lege(ordner.filePath("datei"), "");
   const std::pair<QString, bool> faelle[] = {
       {"", true}, {"/datei", true}, {"/fehlt", false}, {"/fehlt/datei", true}, {"/datei/x", true}};
-  for (const auto &[name, da] : faelle) {
+  for (const auto &[name, da] : faelle)
     EXPECT_EQ(ExistiertDatei(ordner.path() + name), da) << qPrintable(name);
-  }
   EXPECT_FALSE(ExistiertDatei(""));
 }

@@ -42,9 +42,8 @@ TEST_F(Textdatei, Zeilenenden) {
 
 TEST_F(Textdatei, CodepageHinUndZurueck) {
   QByteArray alle;
-  for (int byte = 0; byte < 256; ++byte) {
+  for (int byte = 0; byte < 256; ++byte)
     alle.append(static_cast<char>(byte));
-  }
   alle.replace("\n", "").replace("\r", "");
   Lege(pfad, alle + "\r\n");
   const Textzeilen gelesen = LiesZeilen(pfad, 1);
