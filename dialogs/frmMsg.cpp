@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWindow>
+#include <utility>
 #include <vector>
 
 #include "core/spiel.h"
@@ -110,8 +111,13 @@ void Meldefenster::Antworte(std::int16_t antwort) {
   done(antwort);
 }
 
+void Meldefenster::mousePressEvent(QMouseEvent *ereignis) {
+  gegriffen_ = ereignis->button() == Qt::LeftButton;
+}
+
 void Meldefenster::mouseMoveEvent(QMouseEvent *ereignis) {
-  if (ereignis->buttons() & Qt::LeftButton)
+  // Asked a second time, the window manager would move the window after the button is released.
+  if (std::exchange(gegriffen_, false) && ereignis->buttons() & Qt::LeftButton)
     windowHandle()->startSystemMove();
 }
 

@@ -22,6 +22,7 @@ class Meldefenster : public Bildfenster {
  protected:
   Meldefenster(const Meldelayout &layout, const Meldung &meldung);
 
+  void mousePressEvent(QMouseEvent *ereignis) override;
   void mouseMoveEvent(QMouseEvent *ereignis) override;
   void keyPressEvent(QKeyEvent *ereignis) override;
   void closeEvent(QCloseEvent *ereignis) override;
@@ -31,6 +32,7 @@ class Meldefenster : public Bildfenster {
 
   const Meldelayout &layout_;
   Lage lage_;
+  bool gegriffen_ = false;
 };
 
 /// A question; `spiel.Antwort` holds the answer when the window has closed. Esc, the close picture
