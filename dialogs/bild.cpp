@@ -22,10 +22,10 @@ Bild::Bild(QWidget *eltern) : QWidget(eltern) {}
 Bild::Bild(QWidget *eltern, const Bildzeile &zeile) : QWidget(eltern) {
   setObjectName(zeile.name);
   setGeometry(Rechteck(zeile.lage));
+  setToolTip(zeile.tooltip);
+  SetzeAnsage(zeile.ansage, zeile.rolle);  // Before anything is announced: the role is asked once.
   if (*zeile.bild != '\0')
     SetzeBild(&Bilddatei(zeile.bild));
-  setToolTip(zeile.tooltip);
-  SetzeAnsage(zeile.ansage, zeile.rolle);
 }
 
 void Bild::SetzeBild(const QPixmap *bild) {

@@ -15,8 +15,11 @@ class frmHintergrund : public QWidget {
  protected:
   void paintEvent(QPaintEvent *ereignis) override;
   bool event(QEvent *ereignis) override;
+  bool eventFilter(QObject *objekt, QEvent *ereignis) override;
 
  private:
+  void SpanneBild();
+
   QWidget *hauptfenster_;
   QPixmap Image1;  ///< The stone, stretched once to the size of the screen.
 };

@@ -1,6 +1,7 @@
 #include "platform/modOpenSave.h"
 
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QIdentityProxyModel>
@@ -31,10 +32,21 @@ class DeutscheSpalten : public QIdentityProxyModel {
   static constexpr int kDatum = 3;
 };
 
+/// Icons told from the kind alone. Qt would read each file, and wait forever at an endless one.
+class Dateisymbole : public QFileIconProvider {
+ public:
+  QIcon icon(const QFileInfo &datei) const override {
+    return QFileIconProvider::icon(datei.isDir() ? Folder : File);
+  }
+  QString type(const QFileInfo &datei) const override { return datei.isDir() ? "Ordner" : "Datei"; }
+};
+
 QString Dateidialog(QWidget *besitzer, const QString &titel, QFileDialog::AcceptMode modus) {
   // Qt takes a missing folder for the name of a file to be chosen.
   const QString ordner = QFileInfo(Dialogordner).isDir() ? Dialogordner : QString();
+  Dateisymbole symbole;
   QFileDialog dialog(besitzer, titel, ordner, "Spieldateien (*.sar)");
+  dialog.setIconProvider(&symbole);
   dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
   dialog.setProxyModel(new DeutscheSpalten(&dialog));
   dialog.setAcceptMode(modus);

@@ -58,6 +58,8 @@ void Main(frmSpielfeld &fenster) {
   fenster.ErlaubeSound(spiel.SoundAn);
   WarteAufSpiel(fenster);
   // The cover goes first, so that the main window ends up above it.
-  (new frmHintergrund(&fenster))->show();
+  auto *hintergrund = new frmHintergrund(&fenster);
+  QObject::connect(qApp, &QCoreApplication::aboutToQuit, hintergrund, &QObject::deleteLater);
+  hintergrund->show();
   fenster.show();
 }

@@ -21,6 +21,7 @@ eval "$(awk -v sox="$sox" -v name="$name" '
   END { printf "; laenge=%s\n", laenge }
 ' "$tabelle")"
 
-# The first input is silence of the whole length. -R and -D: the same file from every build.
+# The first input is silence of the whole length. -R and -D: the same file from every build. The
+# silence behind the sound is there to be lost: some sound systems drop what they hold at the end.
 "$sox" -R -D -m "$@" -b 16 -e signed-integer "$datei" \
-  trim 0 "$laenge" fade t 0.001 "$laenge" 0.02 gain -n -6
+  trim 0 "$laenge" fade t 0.001 "$laenge" 0.02 gain -n -6 pad 0 0.2
