@@ -77,11 +77,7 @@ class FeldAnsicht : public Ansicht {
     std::string text;
     for (int stelle = bis; stelle >= von; --stelle) {
       const auto fund = ziffern.find({reihe, stelle});
-      if (fund == ziffern.end())
-        text += '-';
-      else
-        text += fund->second.second == kLeereZiffer ? '_'
-                                                    : static_cast<char>('0' + fund->second.second);
+      text += fund == ziffern.end() ? '-' : "0123456789_"[fund->second.second];
     }
     return text;
   }

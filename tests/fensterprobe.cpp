@@ -1,10 +1,7 @@
 #include "tests/fensterprobe.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 
-#include "core/zug.h"
 #include "persistence/modBeste.h"
 #include "shell/iniMain.h"
 
@@ -14,6 +11,8 @@ Fensterprobe::Fensterprobe() {
   BestenEintrag = false;
   QObject::connect(&takt, &QTimer::timeout, [this] { BedieneFenster(); });
   takt.start(1);
+  spielfeld = std::make_unique<frmSpielfeld>();
+  Main(*spielfeld);
 }
 
 Fensterprobe::~Fensterprobe() {
@@ -21,11 +20,6 @@ Fensterprobe::~Fensterprobe() {
   spielfeld.reset();
   for (QWidget *fenster : QApplication::topLevelWidgets())
     delete fenster;
-}
-
-void Fensterprobe::Starte() {
-  spielfeld = std::make_unique<frmSpielfeld>();
-  Main(*spielfeld);
 }
 
 void Fensterprobe::BedieneFenster() {
@@ -41,40 +35,8 @@ void Fensterprobe::BedieneFenster() {
   }
   const auto handlung = geplant.front();
   geplant.pop_front();
-  ++gesehen;
   // A timer does not tick while its own tick is handled, and the action may open the next window.
   QTimer::singleShot(0, fenster, [handlung, fenster] { handlung(fenster); });
-}
-
-void Fensterprobe::GewinneLevel() {
-  for (int n = 1; n <= kZellen; ++n) {
-    if (spiel.Feld.at(static_cast<std::size_t>(n)).IstSarant &&
-        spielfeld->LiesKachel(n) == Kachel::Verdeckt)
-      Klick(Zelle(n));
-  }
-  ASSERT_TRUE(spielfeld->IstSichtbar(Bedienung::imgNextLevel));
-}
-
-void Fensterprobe::VerliereLevel() {
-  for (int n = 1; n <= kZellen; ++n) {
-    if (!spiel.Feld.at(static_cast<std::size_t>(n)).IstSarant &&
-        spielfeld->LiesKachel(n) == Kachel::Verdeckt)
-      Klick(Zelle(n));
-  }
-  ASSERT_TRUE(spielfeld->IstSichtbar(Bedienung::cmdWiederholen));
-}
-
-QByteArray Fensterprobe::Inhalt(const QString &pfad) {
-  QFile datei(pfad);
-  EXPECT_TRUE(datei.open(QIODevice::ReadOnly)) << pfad.toStdString();
-  return datei.readAll();
-}
-
-void Fensterprobe::Schreibe(const QString &pfad, const QByteArray &inhalt) {
-  QDir().mkpath(QFileInfo(pfad).path());
-  QFile datei(pfad);
-  ASSERT_TRUE(datei.open(QIODevice::WriteOnly)) << pfad.toStdString();
-  datei.write(inhalt);
 }
 
 int main(int argc, char *argv[]) {

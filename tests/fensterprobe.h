@@ -12,20 +12,20 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "core/spiel.h"
 #include "dialogs/bild.h"
 #include "dialogs/frmMsg.h"
 #include "shell/frmSpielfeld.h"
+#include "tests/platform/dateien.h"
 
+/// The program in its waiting state, as at the start of the process.
 class Fensterprobe : public testing::Test {
  protected:
   Fensterprobe();
   ~Fensterprobe() override;
-
-  /// Brings the program to its waiting state, as at the start of the process.
-  void Starte();
 
   /// Acts on the next modal window of a kind. What is announced happens in its order, each action
   /// as soon as its window is there; a window that nothing was announced for fails the test and
@@ -41,9 +41,9 @@ class Fensterprobe : public testing::Test {
         fenster->close();
     });
   }
-  /// Answers the next question by a key: J, N or Esc.
-  void DannAntworte(Qt::Key taste) {
-    Dann<Meldefenster>([taste](Meldefenster &fenster) { QTest::keyClick(&fenster, taste); });
+  /// Answers the next question by a key.
+  void DannAntworte(const char *taste) {
+    Dann<Meldefenster>([taste](Meldefenster &fenster) { Druecke(fenster, taste); });
   }
 
   template <class Element = Bild>
@@ -52,25 +52,24 @@ class Fensterprobe : public testing::Test {
     EXPECT_NE(element, nullptr) << name.toStdString();
     return element;
   }
-  Bild *Zelle(int n) { return Finde(*spielfeld, "imgSar" + QString::number(n)); }
-  static void Klick(QWidget *ziel, Qt::MouseButton taste = Qt::LeftButton) {
-    QTest::mouseClick(ziel, taste);
+  static void Druecke(QWidget &fenster, const QString &taste) {
+    const QKeyCombination tasten = QKeySequence(taste)[0];
+    QTest::keyClick(&fenster, tasten.key(), tasten.keyboardModifiers());
   }
+  static void Klick(QWidget *ziel) { QTest::mouseClick(ziel, Qt::LeftButton); }
   void Klick(const QString &name) { Klick(Finde(*spielfeld, name)); }
   static QString Text(QWidget &fenster, const QString &name) {
     return Finde<QLabel>(fenster, name)->text();
   }
-
-  void GewinneLevel();
-  void VerliereLevel();
-
+  static void ErwarteLagen(QWidget &fenster,
+                           const std::vector<std::pair<const char *, QRect>> &lagen) {
+    for (const auto &[name, lage] : lagen)
+      EXPECT_EQ(Finde<QWidget>(fenster, name)->geometry(), lage) << name;
+  }
   QString Datei(const QString &name) const { return ordner.path() + "/nachtkammern/" + name; }
-  static QByteArray Inhalt(const QString &pfad);
-  static void Schreibe(const QString &pfad, const QByteArray &inhalt);
 
   QTemporaryDir ordner;
   std::unique_ptr<frmSpielfeld> spielfeld;
-  int gesehen = 0;  ///< Modal windows that were acted on.
 
  private:
   void BedieneFenster();

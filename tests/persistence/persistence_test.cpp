@@ -1,0 +1,192 @@
+#include <map>
+
+#include "core/befehle.h"
+#include "persistence/iniLumbra.h"
+#include "persistence/modDateiHandling.h"
+#include "tests/persistence/umgebung.h"
+
+TEST_F(Umgebung, LiestDenModusUndLaesstDieDateiStehen) {
+  const std::map<std::pair<int, bool>, std::vector<QByteArray>> faelle = {
+      {{1, true}, {"1\r\n"}},
+      {{2, true}, {"-1\r\n"}},
+      {{2, false},
+       {"0\r\n", "4\r\n", "Experte\r\n", "", "65539\r\n", QByteArray("3\0", 2),
+        QByteArray(10 << 20, '3')}},
+      {{3, true}, {"3\nmehr"}}};
+  for (const auto &[ergebnis, dateien] : faelle) {
+    for (const QByteArray &bytes : dateien) {
+      Lege(IniPfad(), bytes);
+      spiel.Spielmodus = 1;
+      ansicht.modustext.clear();
+      LeseIni(ansicht);
+      EXPECT_EQ(spiel.Spielmodus, ergebnis.first) << bytes.left(20).data();
+      EXPECT_EQ(ansicht.modustext, ergebnis.second ? Moduszeile(3) : "") << bytes.left(20).data();
+      EXPECT_EQ(Inhalt(IniPfad()), bytes);
+    }
+    SchreibeIni();
+    EXPECT_EQ(Inhalt(IniPfad()), QByteArray::number(ergebnis.first) + "\r\n");
+  }
+}
+
+class Spielstand : public Umgebung {
+ protected:
+  QString pfad = temporaer.filePath("spiel.sar");
+
+  Spielstand() { SetzeSpiel(7, 2900, 450); }
+  static void SetzeSpiel(std::int16_t level, std::int32_t punkte, std::int32_t levelpunkte) {
+    spiel.Level = level;
+    spiel.Punkte = punkte;
+    spiel.Levelpunkte = levelpunkte;
+  }
+};
+
+TEST_F(Spielstand, SchreibtByteFuerByte) {
+  SpeichereSpielstand(ansicht, pfad);
+  EXPECT_EQ(Inhalt(pfad), "7\r\n3350\r\n2\r\n");
+  EXPECT_EQ(spiel.Punkte, 2900);
+  SetzeSpiel(40, -50, -100);
+  SpeichereSpielstand(ansicht, pfad);
+  EXPECT_EQ(Inhalt(pfad), "40\r\n-150\r\n2\r\n");
+  EXPECT_TRUE(ansicht.meldungen.empty());
+}
+
+TEST_F(Spielstand, LaedtInEineSaubereSpielphase) {
+  Lege(pfad, "12\n4711\n3");
+  const auto phase = {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern};
+  for (const Bedienung b : phase)
+    ansicht.Zeige(b, true);
+  ansicht.speichernErlaubt = true;
+  ansicht.timer = {{Pfeil::Start, 300}, {Pfeil::Weiter, 400}};
+  ansicht.antworten = {kJa};
+  LadeGewaehlteDatei(ansicht, pfad);
+  ErwarteMeldung(FrageLaden(13, 3, "4711"));
+  ErwarteSpiel(13, 4711, 0, 3);
+  EXPECT_EQ(spiel.SarantenRest, 76 - 13 - spiel.Startfelder);
+  for (const Bedienung b : phase)
+    EXPECT_FALSE(ansicht.IstSichtbar(b));
+  EXPECT_FALSE(ansicht.speichernErlaubt);
+  EXPECT_EQ(ansicht.timer[Pfeil::Start] + ansicht.timer[Pfeil::Weiter], 0);
+}
+
+TEST_F(Spielstand, VorDemJaBleibtDasSpielWieEsWar) {
+  const auto Pruefe = [&](const QByteArray &bytes, const Meldung &meldung) {
+    Lege(pfad, bytes);
+    ansicht.timer = {{Pfeil::Weiter, 300}};
+    LadeSpielstand(ansicht, pfad);
+    ErwarteMeldung(meldung, bytes.left(20));
+    ErwarteSpiel(7, 2900, 450, 2);
+    EXPECT_EQ(ansicht.timer[Pfeil::Weiter], 300);
+  };
+  Pruefe("0\r\n500\r\n1\r\n", FrageLaden(1, 1, "500"));
+  Pruefe("40\r\n-7\r\n2", FrageLaden(41, 2, "-7"));
+  Pruefe("41\r\n2147483647\r\n2\r\nmehr", FrageLaden(42, 2, "2147483647"));
+  Pruefe("3\n\x80\n1", FrageLaden(4, 1, "€"));
+  const std::map<int, std::vector<QByteArray>> fehler = {
+      {5, {"7\r\n3350\r\n"}},
+      {6, {"sieben\r\n1\r\n2\r\n", "7\r\n1\r\nNormal\r\n", QByteArray("7\0\n3350\n2\n", 10)}},
+      {7, {"32767\n1\n2\n", "-1\n1\n2\n", "7\n1\n0\n", "7\n1\n4\n"}},
+      {8, {QByteArray(10 << 20, '7')}}};
+  for (const auto &[nummer, dateien] : fehler) {
+    for (const QByteArray &bytes : dateien)
+      Pruefe(bytes, MeldungLesefehler(nummer));
+  }
+}
+
+TEST_F(Spielstand, NachDemJaEndetDasSpielOderScheitertAnPunktenOhneWert) {
+  Lege(pfad, "3\r\n2147483648\r\n1\r\n");
+  ansicht.antworten = {kJa, kJa};
+  LadeSpielstand(ansicht, pfad);
+  ansicht.meldungen.erase(ansicht.meldungen.begin());
+  ErwarteMeldung(MeldungLesefehler(7));
+  ErwarteSpiel(3, 2900, 450, 2);
+  Lege(pfad, "32766\r\n500\r\n2\r\n");
+  LadeSpielstand(ansicht, pfad);
+  EXPECT_TRUE(ansicht.beendet);
+}
+
+class Beste : public Umgebung {
+ protected:
+  const QByteArray vorgabe =
+      "Niemand\r\nNiemand\r\nNiemand\r\nNiemand\r\nNiemand\r\n"
+      "15000\r\n14500\r\n14000\r\n13500\r\n13000\r\n";
+
+  Beste() {
+    BestenlisteAnlegen();
+    BestenlisteLaden(ansicht);
+  }
+  void Spiele(std::int32_t punkte, std::int16_t antwort) {
+    spiel.Punkte = punkte;
+    ansicht.antworten = {antwort};
+    BestenlistePruefen(ansicht);
+  }
+};
+
+TEST_F(Beste, PlaetzeDerVorgabe) {
+  constexpr int kFaelle[][2] = {{99999, 0},  {15001, 0}, {15000, 1}, {14500, 2},
+                                {14001, 2},  {14000, 3}, {13500, 4}, {13001, 4},
+                                {13000, -1}, {0, -1},    {-100, -1}};
+  EXPECT_EQ(spiel.Bestenschwelle, 13000);
+  for (const auto &[punkte, platz] : kFaelle) {
+    Spiele(punkte, kNein);
+    EXPECT_EQ(BestenPlatz, platz) << punkte;
+    EXPECT_FALSE(BestenEintrag);
+    EXPECT_EQ(NeueBestmarke(), platz >= 0);
+    ErwarteMeldung(platz >= 0 ? FrageBesteneintrag() : MeldungKeinBesteneintrag());
+    EXPECT_EQ(lstPunkte.join(' '), "15000 14500 14000 13500 13000");
+  }
+  EXPECT_EQ(Inhalt(BestenlistePfad()), vorgabe);
+}
+
+TEST_F(Beste, EintragWirdErstMitDemNamenGespeichert) {
+  bool gezeigt = false;
+  ansicht.beimBesteneintrag = [&] {
+    gezeigt = BestenEintrag;
+    EXPECT_EQ(lstName.value(1), "Spieler");
+    EXPECT_EQ(Inhalt(BestenlistePfad()), vorgabe);
+    EXPECT_EQ(spiel.Bestenschwelle, 13000);
+  };
+  Spiele(14700, kJa);
+  ASSERT_TRUE(gezeigt);
+  lstName[1] = "Jürgen Groß € Ω";
+  BestenlisteSpeichern(ansicht);
+  EXPECT_EQ(Inhalt(BestenlistePfad()),
+            "Niemand\r\nJ\xFCrgen Gro\xDF \x80 ?\r\nNiemand\r\nNiemand\r\nNiemand\r\n"
+            "15000\r\n14700\r\n14500\r\n14000\r\n13500\r\n");
+  EXPECT_EQ(spiel.Bestenschwelle, 13500);
+}
+
+TEST_F(Beste, BeschaedigteDateiBleibtUndLaesstWeiterspielen) {
+  const QByteArray namen = "A\nB\nC\nD\nE\n";
+  const struct {
+    QByteArray bytes;
+    int nummer, namen, punkte, platz;
+  } faelle[] = {
+      {"", 5, 0, 0, 0},
+      {"A\nB", 5, 2, 0, 0},
+      {namen + "900\n800\n700\n600\n", 5, 5, 4, 4},
+      {namen + "900\n800\n700\n600\nletzter", 6, 5, 5, 4},
+      {namen + "900\n800\n700\n600\n2147483648", 7, 5, 5, 4},
+      {QByteArray(10 << 20, 'x'), 8, 0, 0, 0},
+      {QByteArray(100, '\0'), 5, 1, 0, 0},
+      {namen + "900\nviele\n700\n600\n500\nmehr", 0, 5, 5, 1},  // Only the last entry is checked.
+      {namen + " 900\n800\n700\n600\n500", 0, 5, 5, 4},
+  };
+  for (const auto &fall : faelle) {
+    spiel.Bestenschwelle = 77;
+    Lege(BestenlistePfad(), fall.bytes);
+    BestenlisteLaden(ansicht);
+    if (fall.nummer != 0) {
+      ErwarteMeldung(MeldungBesteNichtGelesen(fall.nummer), fall.bytes.left(30));
+      EXPECT_EQ(spiel.Bestenschwelle, 77);
+    }
+    EXPECT_EQ(lstName.size(), fall.namen);
+    EXPECT_EQ(lstPunkte.size(), fall.punkte);
+    EXPECT_EQ(Inhalt(BestenlistePfad()), fall.bytes);
+    Spiele(550, kJa);
+    EXPECT_EQ(BestenPlatz, fall.platz) << fall.bytes.left(30).data();
+    BestenlisteSpeichern(ansicht);
+    ansicht.meldungen.clear();
+    BestenlisteLaden(ansicht);
+    EXPECT_TRUE(ansicht.meldungen.empty()) << "a saved list can be loaded";
+  }
+}

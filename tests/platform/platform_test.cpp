@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <map>
+
+#include "platform/modExistiertDatei.h"
+#include "platform/pfade.h"
+#include "platform/textdatei.h"
+#include "tests/platform/dateien.h"
+
+class Platform : public testing::Test {
+ protected:
+  QTemporaryDir ordner;
+  QString pfad = ordner.filePath("datei");
+};
+
+TEST_F(Platform, DatenwurzelNachUmgebung) {
+  Lege(pfad, "");
+  const QByteArray heim = ordner.path().toUtf8();
+  const std::array<QByteArray, 3> faelle[] = {
+      {heim, "", heim + "/.local/share"},  // Created on the way.
+      {"", heim + "/xdg", heim + "/xdg"}, {"", "", ""}, {"", "kein/voller/pfad", ""},
+      {heim + "/datei/heim", "", ""},  // A home directory that cannot exist.
+  };
+  for (const auto &[home, xdg, wurzel] : faelle) {
+    qputenv("HOME", home);
+    qputenv("XDG_DATA_HOME", xdg);
+    EXPECT_EQ(Datenwurzel(), wurzel) << home.data() << " " << xdg.data();
+    EXPECT_TRUE(wurzel.isEmpty() || QDir(wurzel).exists());
+  }
+}
+
+TEST_F(Platform, ProgrammordnerZiehtMitUm) {
+  const QDir baum(ordner.path());
+  const auto erwarte = [&](const QString &stelle, const QString &programmordner) {
+    baum.mkpath(stelle);
+    QFile::copy(ZEIGE_PROGRAMMORDNER, baum.filePath(stelle + "/p"));
+    QProcess programm;
+    programm.start(baum.filePath(stelle + "/p"), {});
+    programm.waitForFinished();
+    EXPECT_EQ(programm.readAllStandardOutput().trimmed(), baum.filePath(programmordner).toUtf8());
+  };
+  erwarte("bin", "bin");
+  baum.mkpath("share/glanzgrube");
+  erwarte("bin", "share/glanzgrube");
+  erwarte("sonstwo", "sonstwo");
+}
+
+TEST_F(Platform, NurEinFehlenderNameImVorhandenenOrdnerFehlt) {
+  Lege(pfad, "");
+  for (const char *name : {"", "/datei", "/fehlt/datei", "/datei/x"})
+    EXPECT_TRUE(ExistiertDatei(ordner.path() + name)) << name;
+  EXPECT_FALSE(ExistiertDatei(ordner.path() + "/fehlt"));
+  EXPECT_FALSE(ExistiertDatei(""));
+}
+
+TEST_F(Platform, Zeilenenden) {
+  const struct {
+    QByteArray bytes;
+    QStringList zeilen;
+    Dateifehler fehler = Dateifehler::Keiner;
+  } faelle[] = {
+      {"a\r\nb\r\nc", {"a", "b"}},
+      {"a\nb", {"a", "b"}},
+      {"a\rb\r", {"a", "b"}},
+      {"\r\n\n", {"", ""}},
+      {"\n\r", {"", ""}},
+      {"a\r\n", {"a"}, Dateifehler::Dateiende},
+      {QByteArray("\0\n\0", 3), {QChar(0), QChar(0)}},
+      {"a\n" + QByteArray(kLaengsteZeile, 'x'), {"a", QString(kLaengsteZeile, 'x')}},
+      {"a\n" + QByteArray(10 << 20, 'x'), {"a"}, Dateifehler::Anderer},
+  };
+  for (const auto &fall : faelle) {
+    Lege(pfad, fall.bytes);
+    const Textzeilen gelesen = LiesZeilen(pfad, 2);
+    EXPECT_EQ(gelesen.Zeilen, fall.zeilen) << fall.bytes.left(20).data();
+    EXPECT_EQ(gelesen.Fehler, fall.fehler) << fall.bytes.left(20).data();
+  }
+}
+
+TEST_F(Platform, CodepageHinUndZurueck) {
+  QByteArray alle;
+  for (int byte = 0; byte < 256; ++byte)
+    alle.append(static_cast<char>(byte));
+  alle.replace("\n", "").replace("\r", "");
+  Lege(pfad, alle + "\r\n");
+  const Textzeilen gelesen = LiesZeilen(pfad, 1);
+  EXPECT_TRUE(gelesen.Zeilen.value(0).contains("€\u0081‚ƒ"));
+  ASSERT_EQ(SchreibeZeilen(pfad, gelesen.Zeilen), Dateifehler::Keiner);
+  EXPECT_EQ(Inhalt(pfad), alle + "\r\n");
+  SchreibeZeilen(pfad, {"Jörg € »ß« 😀 Ł", "a\r\nb", ""});
+  EXPECT_EQ(Inhalt(pfad), "J\xF6rg \x80 \xBB\xDF\xAB ? ?\r\na??b\r\n\r\n");
+}
+
+TEST_F(Platform, NurGanzeZahlenImBereichSindZahlen) {
+  std::int16_t wert = 99;
+  const std::map<Dateifehler, QStringList> faelle = {
+      {Dateifehler::Zahlenbereich, {"32768", "99999999999999999999"}},
+      {Dateifehler::KeineZahl,
+       {"99999999999999999999x", " ", "-", "1 2", "1,5", QString("5") + QChar(0), "５"}}};
+  for (const auto &[fehler, texte] : faelle) {
+    for (const QString &text : texte)
+      EXPECT_EQ(LiesZahl(text, wert), fehler) << qPrintable(text);
+  }
+  EXPECT_EQ(wert, 99);
+  for (const auto &[text, zahl] : std::map<QString, int>{{"-32768", -32768}, {"  007 ", 7}}) {
+    EXPECT_EQ(LiesZahl(text, wert), Dateifehler::Keiner);
+    EXPECT_EQ(wert, zahl);
+  }
+}
