@@ -167,7 +167,7 @@ class Bestenfenster : public Fensterprobe {
  protected:
   frmBeste &Fenster() { return frmBeste::Fenster(spielfeld.get(), *spielfeld); }
   /// Enters the list with some points, and does something with the open window.
-  void TrageEin(std::int32_t punkte, std::function<void(frmBeste &)> handlung) {
+  void TrageEin(std::int32_t punkte, const std::function<void(frmBeste &)> &handlung) {
     spiel.Punkte = punkte;
     DannAntworte("J");
     Dann<frmBeste>(handlung);
