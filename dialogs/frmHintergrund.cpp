@@ -10,26 +10,20 @@
 #include "dialogs/bilder.h"
 #include "platform/taskleiste.h"
 
-namespace {
-
-/// What is seen until the picture is there: the mean colour of the stone.
-const QColor kSteingrau(0xa8, 0xaf, 0xb7);
-
-}  // namespace
-
 frmHintergrund::frmHintergrund(QWidget *hauptfenster)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), hauptfenster_(hauptfenster) {
   const QScreen *schirm = hauptfenster->screen();
   setGeometry(schirm->geometry());
   setFixedSize(size());
-  setPalette(QPalette(kSteingrau));
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setUpdatesEnabled(false);
   hauptfenster->installEventFilter(this);
   winId();  // The window must exist before its entry in the task bar can be refused.
   OhneTaskleiste(windowHandle());
 }
 
 bool frmHintergrund::eventFilter(QObject *objekt, QEvent *ereignis) {
-  // Stretching the picture takes a while; the first look at the main window shall not wait for it.
+  // Filling a whole screen takes a while; the first look at the main window shall not wait for it.
   if (ereignis->type() == QEvent::Paint) {
     objekt->removeEventFilter(this);
     QTimer::singleShot(0, this, [this] { SpanneBild(); });
@@ -41,14 +35,11 @@ void frmHintergrund::SpanneBild() {
   const QPixmap &stein = Bilddatei("schreibtisch");
   Image1 = stein.scaled((QSizeF(size()) * stein.devicePixelRatio()).toSize(), Qt::IgnoreAspectRatio,
                         Qt::SmoothTransformation);
-  setAttribute(Qt::WA_OpaquePaintEvent);
-  update();
+  setUpdatesEnabled(true);
 }
 
 void frmHintergrund::paintEvent(QPaintEvent *ereignis) {
   Q_UNUSED(ereignis)
-  if (Image1.isNull())
-    return;
   QPainter maler(this);
   ZeichneGenau(maler, {0, 0}, Image1);
 }

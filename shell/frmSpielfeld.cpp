@@ -29,7 +29,8 @@ namespace {
 
 constexpr Twips kFenster{0, 0, 13170, 10935};
 const Bildzeile kFlaeche{"frmSpielfeld", kFenster, "spielfeld", "", "Spiel", QAccessible::Grouping};
-const Bildzeile kPicture1{"Picture1",  {3330, 210, 9645, 9705}, "feld", "",
+// The picture of the window shows the board as well.
+const Bildzeile kPicture1{"Picture1",  {3330, 210, 9645, 9705}, "", "",
                           "Spielfeld", QAccessible::Grouping};
 
 const Textzeile kLblModus{"lblModus", {4260, 9960, 6615, 855}, 11.25, true, kDunkelblau};

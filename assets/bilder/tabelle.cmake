@@ -18,15 +18,17 @@ function(koernung fein tiefe wolken wolken_mitte)
   set(KOERNUNG "${KOERNUNG}" PARENT_SCOPE)
 endfunction()
 
+# The board lies in the main window's stone. Both are one picture, because decoding a second one would
+# make the start of the program a tenth longer.
+koernung(.5 .11 .14 .07)
+stueck(RITZUNG ritzung.svg.in)
+bild(feld feld 643 647 ENDUNG einlage)
 koernung(.5 .11 .16 .08)
-bild(spielfeld spielfeld 1000 800 ENDUNG jpg SICHTBREITE 878 SICHTHOEHE 729)
+bild(spielfeld spielfeld 1000 800 ENDUNG jpg SICHTBREITE 878 SICHTHOEHE 729
+     EINLAGE feld EINLAGE_LINKS 222 EINLAGE_OBEN 14)
 
 koernung(.6 .16 .24 .12)
 bild(schreibtisch schreibtisch 643 647 ENDUNG jpg FAKTOREN 1,2 BREITE_INNEN 640.5 HOEHE_INNEN 644.5)
-
-koernung(.5 .11 .14 .07)
-stueck(RITZUNG ritzung.svg.in)
-bild(feld feld 1000 670 ENDUNG jpg)
 
 # The scalloped band: its width, the width without the scallops, and the scallops' diameter.
 function(papierbogen name breite hoehe sichtbreite sichthoehe bandbreite bogen)
