@@ -4,10 +4,10 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
-#include <QTimer>
 
 #include "dialogs/bild.h"
 #include "dialogs/bilder.h"
+#include "dialogs/ersterblick.h"
 #include "platform/taskleiste.h"
 
 frmHintergrund::frmHintergrund(QWidget *hauptfenster)
@@ -17,18 +17,10 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster)
   setFixedSize(size());
   setAttribute(Qt::WA_OpaquePaintEvent);
   setUpdatesEnabled(false);
-  hauptfenster->installEventFilter(this);
+  // Filling a whole screen takes a while; the first look at the main window shall not wait for it.
+  NachErstemBlick(hauptfenster, [this] { SpanneBild(); });
   winId();  // The window must exist before its entry in the task bar can be refused.
   OhneTaskleiste(windowHandle());
-}
-
-bool frmHintergrund::eventFilter(QObject *objekt, QEvent *ereignis) {
-  // Filling a whole screen takes a while; the first look at the main window shall not wait for it.
-  if (ereignis->type() == QEvent::Paint) {
-    objekt->removeEventFilter(this);
-    QTimer::singleShot(0, this, [this] { SpanneBild(); });
-  }
-  return false;
 }
 
 void frmHintergrund::SpanneBild() {

@@ -15,7 +15,6 @@ class frmHintergrund : public QWidget {
  protected:
   void paintEvent(QPaintEvent *ereignis) override;
   bool event(QEvent *ereignis) override;
-  bool eventFilter(QObject *objekt, QEvent *ereignis) override;
 
  private:
   void SpanneBild();

@@ -9,6 +9,7 @@
 
 #include "core/befehle.h"
 #include "dialogs/bilder.h"
+#include "dialogs/ersterblick.h"
 #include "dialogs/frmHintergrund.h"
 #include "dialogs/zugang.h"
 #include "persistence/iniLumbra.h"
@@ -39,7 +40,6 @@ void RichteAnwendungEin(QApplication &anwendung) {
   if (uebersetzung->load(":/uebersetzung/qtbase_de.qm"))
     QApplication::installTranslator(uebersetzung);
   QApplication::setDesktopFileName("example.glanzgrube.Glanzgrube");
-  QApplication::setWindowIcon(QIcon(Bilddatei("fenstersymbol")));
   RichteZugangEin();
 }
 
@@ -54,8 +54,11 @@ void Main(frmSpielfeld &fenster) {
   if (!ExistiertDatei(BestenlistePfad()))
     BestenlisteAnlegen();
   BestenlisteLaden(fenster);
-  spiel.SoundAn = SoundGeraetDa();
-  fenster.ErlaubeSound(spiel.SoundAn);
+  NachErstemBlick(&fenster, [&fenster] {  // A slow sound server keeps no one from looking.
+    QApplication::setWindowIcon(QIcon(Bilddatei("fenstersymbol")));
+    spiel.SoundAn = SoundGeraetDa();
+    fenster.ErlaubeSound(spiel.SoundAn);
+  });
   WarteAufSpiel(fenster);
   // The cover goes first, so that the main window ends up above it.
   auto *hintergrund = new frmHintergrund(&fenster);
