@@ -10,8 +10,7 @@ QString Datenpfad(const QString &name) {
   return MitBackslash(ordner) + name;
 }
 
-void LegeDatenordnerFest(Ansicht &ansicht) {
-  const QString wurzel = Datenwurzel();
+void LegeDatenordnerFest(Ansicht &ansicht, const QString &wurzel) {
   if (wurzel.isEmpty()) {
     ansicht.Melde(MeldungKeineFestplatte());
     return;

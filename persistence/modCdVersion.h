@@ -11,8 +11,9 @@
 QString Datenpfad(const QString &name);
 
 /// Settles `Datenordner`, `DatenordnerAktiv` and the folder of the file dialogs, and creates the
-/// folder if it is missing. Tells the player when the system has no place for it.
-void LegeDatenordnerFest(Ansicht &ansicht);
+/// folder if it is missing.
+/// @param wurzel   the place of that folder; the player is told if it is empty.
+void LegeDatenordnerFest(Ansicht &ansicht, const QString &wurzel);
 
 /// Creates the data folder. A failure is told and changes nothing: later reads and writes fail.
 void LegeDatenordnerAn(Ansicht &ansicht, const QString &pfad);

@@ -1,5 +1,5 @@
 /// @file
-/// The two file dialogs. Qt draws them, so that they are German on a machine of any language.
+/// The two file dialogs.
 #pragma once
 
 #include <QString>

@@ -14,7 +14,9 @@ QString MitBackslash(const QString &pfad);
 QString Programmordner();
 
 /// The folder in which the program may create a data folder of its own, without a closing
-/// separator. It exists when this returns. Empty when the system gives none: no home directory is
-/// known, or it cannot hold the user's data directory.
-/// Source: freedesktop.org, XDG base directories.
+/// separator. Empty when the system gives none.
+///
+/// Windows: the drive of the Windows folder, as in "C:". Other systems: the user's data directory,
+/// which exists when this returns; none if no home directory is known, or if it cannot hold that
+/// directory. Source of the latter: freedesktop.org, XDG base directories.
 QString Datenwurzel();

@@ -5,5 +5,6 @@
 class QWindow;
 
 /// Asks the desktop to leave a window out of its task bar and pager. The window must have been
-/// created and not been shown. Source: Extended Window Manager Hints, `_NET_WM_STATE`.
+/// created and not been shown.
+/// Source for X servers: Extended Window Manager Hints, `_NET_WM_STATE`.
 void OhneTaskleiste(QWindow *fenster);

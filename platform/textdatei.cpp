@@ -3,39 +3,16 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <algorithm>
-#include <array>
 #include <charconv>
 
+#include "platform/codepage.h"
 #include "platform/modExistiertDatei.h"
 
 namespace {
 
-/// What the bytes 0x80 to 0x9F stand for; all other bytes stand for the character of their value.
-constexpr std::array<char16_t, 32> kBesondere{
-    u'€',      u'\u0081', u'‚', u'ƒ', u'„', u'…',      u'†', u'‡',       //
-    u'ˆ',      u'‰',      u'Š', u'‹', u'Œ', u'\u008D', u'Ž', u'\u008F',  //
-    u'\u0090', u'‘',      u'’', u'“', u'”', u'•',      u'–', u'—',       //
-    u'˜',      u'™',      u'š', u'›', u'œ', u'\u009D', u'ž', u'Ÿ'};
-constexpr unsigned kErstesBesondere = 0x80;
-
-QChar Dekodiert(char byte) {
-  const unsigned wert = static_cast<unsigned char>(byte);
-  const unsigned stelle = wert - kErstesBesondere;
-  return stelle < kBesondere.size() ? QChar(kBesondere[stelle]) : QChar(wert);
-}
-
-char Kodiert(char32_t zeichen) {
-  if (zeichen == U'\r' || zeichen == U'\n')
-    return '?';  // It would shift all lines behind it.
-  const bool besonders = zeichen - kErstesBesondere < kBesondere.size();
-  if (zeichen <= 0xFF && !besonders)
-    return static_cast<char>(zeichen);
-  const auto fund = std::find(kBesondere.begin(), kBesondere.end(), zeichen);
-  return fund == kBesondere.end()
-             ? '?'
-             : static_cast<char>(kErstesBesondere +
-                                 static_cast<unsigned>(fund - kBesondere.begin()));
+/// Within a line it would shift all lines behind it.
+bool IstZeilenende(char32_t zeichen) {
+  return zeichen == U'\r' || zeichen == U'\n';
 }
 
 /// Folders, pipes and devices bear names of files, but opening them may wait for ever, and
@@ -88,7 +65,7 @@ Textzeilen LiesZeilen(const QString &pfad, int anzahl) {
   if (IstKeineDatei(pfad) || !datei.open(QIODevice::ReadOnly))
     return {{}, Oeffnungsfehler(pfad)};
   Textzeilen gelesen;
-  QString zeile;
+  QByteArray zeile;
   char byte = 0;
   bool nachCr = false;
   while (gelesen.Zeilen.size() < anzahl && datei.getChar(&byte)) {
@@ -97,10 +74,10 @@ Textzeilen LiesZeilen(const QString &pfad, int anzahl) {
     if (zweiteHaelfte)
       continue;
     if (byte == '\r' || byte == '\n') {
-      gelesen.Zeilen.append(zeile);
+      gelesen.Zeilen.append(AusCodepage(zeile));
       zeile.clear();
     } else if (zeile.size() < kLaengsteZeile) {
-      zeile.append(Dekodiert(byte));
+      zeile.append(byte);
     } else {
       gelesen.Fehler = Dateifehler::Anderer;
       return gelesen;
@@ -111,7 +88,7 @@ Textzeilen LiesZeilen(const QString &pfad, int anzahl) {
     return gelesen;
   }
   if (!zeile.isEmpty())
-    gelesen.Zeilen.append(zeile);
+    gelesen.Zeilen.append(AusCodepage(zeile));
   if (gelesen.Zeilen.size() < anzahl)
     gelesen.Fehler = Dateifehler::Dateiende;
   return gelesen;
@@ -123,7 +100,7 @@ Dateifehler SchreibeZeilen(const QString &pfad, const QStringList &zeilen) {
     return Schreibfehler(datei);
   for (const QString &zeile : zeilen) {
     for (const char32_t zeichen : zeile.toUcs4())
-      datei.putChar(Kodiert(zeichen));
+      datei.write(InCodepage(IstZeilenende(zeichen) ? U'?' : zeichen));
     datei.write("\r\n");
   }
   // commit() would lose a failure of the last flush and replace the old file by a short one.

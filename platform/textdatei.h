@@ -1,7 +1,6 @@
 /// @file
-/// Small text files, read and written as a whole: lines ended by CR LF, one byte a character in the
-/// code page Windows-1252.
-/// Source of the code page: WHATWG Encoding Standard, index windows-1252.
+/// Small text files, read and written as a whole: lines ended by CR LF, in the code page that
+/// codepage.h tells of.
 #pragma once
 
 #include <QString>
@@ -21,7 +20,7 @@ enum class Dateifehler : int {
   Anderer = 8,            ///< Anything else, for instance a fault of the disk or an endless line.
 };
 
-/// Longest line that is read, in characters; longer than any text that the game can write.
+/// Longest line that is read, in bytes; longer than any text that the game can write.
 inline constexpr qsizetype kLaengsteZeile = 65536;
 
 /// Lines as they stood in the file, without their ends.
@@ -31,7 +30,7 @@ struct Textzeilen {
 };
 
 /// Reads the first lines of a file. CR LF, LF and CR alone end a line, and the end of the file ends
-/// a last line that has characters. Every byte is one character, NUL included.
+/// a last line that has characters.
 /// @param anzahl   lines to be read; what follows them is not looked at. Fewer lines: `Dateiende`.
 Textzeilen LiesZeilen(const QString &pfad, int anzahl);
 

@@ -43,9 +43,9 @@ void RichteAnwendungEin(QApplication &anwendung) {
   RichteZugangEin();
 }
 
-void Main(frmSpielfeld &fenster) {
+void Main(frmSpielfeld &fenster, const QString &datenwurzel) {
   SoundVorbereiten(Programmordner());
-  LegeDatenordnerFest(fenster);
+  LegeDatenordnerFest(fenster, datenwurzel);
   if (!ExistiertDatei(IniPfad()))
     SchreibeIni();
   LeseIni(fenster);

@@ -3,6 +3,7 @@
 #pragma once
 
 class QApplication;
+class QString;
 class frmSpielfeld;
 
 /// By how much all windows must shrink so that the main window fits on the screen; at most 1.
@@ -14,4 +15,5 @@ void RichteAnwendungEin(QApplication &anwendung);
 
 /// Brings the record to its initial values, finds the place for the data, reads them, and shows the
 /// main window in its waiting state.
-void Main(frmSpielfeld &fenster);
+/// @param datenwurzel   the folder that holds the data folder; empty if the system has none.
+void Main(frmSpielfeld &fenster, const QString &datenwurzel);

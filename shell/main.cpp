@@ -1,6 +1,7 @@
 #include <QApplication>
 
 #include "dialogs/masse.h"
+#include "platform/pfade.h"
 #include "shell/frmSpielfeld.h"
 #include "shell/iniMain.h"
 
@@ -9,6 +10,6 @@ int main(int argc, char *argv[]) {
   StelleMassstab(Schrumpffaktor());
   RichteAnwendungEin(anwendung);
   frmSpielfeld fenster;
-  Main(fenster);
+  Main(fenster, Datenwurzel());
   return QApplication::exec();
 }

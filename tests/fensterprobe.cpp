@@ -6,13 +6,12 @@
 #include "shell/iniMain.h"
 
 Fensterprobe::Fensterprobe() {
-  qputenv("XDG_DATA_HOME", ordner.path().toUtf8());
   spiel = {};
   BestenEintrag = false;
   QObject::connect(&takt, &QTimer::timeout, [this] { BedieneFenster(); });
   takt.start(1);
   spielfeld = std::make_unique<frmSpielfeld>();
-  Main(*spielfeld);
+  Main(*spielfeld, ordner.path());
 }
 
 Fensterprobe::~Fensterprobe() {

@@ -16,22 +16,6 @@ class Platform : public testing::Test {
   QString pfad = ordner.filePath("datei");
 };
 
-TEST_F(Platform, DatenwurzelNachUmgebung) {
-  Lege(pfad, "");
-  const QByteArray heim = ordner.path().toUtf8();
-  const std::array<QByteArray, 3> faelle[] = {
-      {heim, "", heim + "/.local/share"},  // Created on the way.
-      {"", heim + "/xdg", heim + "/xdg"}, {"", "", ""}, {"", "kein/voller/pfad", ""},
-      {heim + "/datei/heim", "", ""},  // A home directory that cannot exist.
-  };
-  for (const auto &[home, xdg, wurzel] : faelle) {
-    qputenv("HOME", home);
-    qputenv("XDG_DATA_HOME", xdg);
-    EXPECT_EQ(Datenwurzel(), wurzel) << home.data() << " " << xdg.data();
-    EXPECT_TRUE(wurzel.isEmpty() || QDir(wurzel).exists());
-  }
-}
-
 TEST_F(Platform, ProgrammordnerZiehtMitUm) {
   const QDir baum(ordner.path());
   const auto erwarte = [&](const QString &stelle, const QString &programmordner) {

@@ -1,0 +1,15 @@
+/// @file
+/// The code page of the text files: one byte a character on most machines.
+///
+/// Windows: the ANSI code page of the machine. Other systems: Windows-1252.
+/// Source of the latter: WHATWG Encoding Standard, index windows-1252.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// Decodes a line; every byte, NUL included, stands for something.
+QString AusCodepage(const QByteArray &bytes);
+
+/// Encodes a character; "?" if the code page lacks it.
+QByteArray InCodepage(char32_t zeichen);

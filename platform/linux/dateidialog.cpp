@@ -1,0 +1,48 @@
+#include "platform/dateidialog.h"
+
+#include <QFileDialog>
+#include <QFileIconProvider>
+#include <QFileSystemModel>
+#include <QIdentityProxyModel>
+#include <QLocale>
+
+namespace {
+
+/// Sizes and dates in German; Qt would write them in the language of the machine.
+class DeutscheSpalten : public QIdentityProxyModel {
+ public:
+  explicit DeutscheSpalten(QObject *besitzer) : QIdentityProxyModel(besitzer) {}
+
+  QVariant data(const QModelIndex &index, int rolle) const override {
+    const auto *dateien = qobject_cast<const QFileSystemModel *>(sourceModel());
+    const QModelIndex datei = mapToSource(index);
+    const QLocale deutsch(QLocale::German);
+    if (rolle == Qt::DisplayRole && index.column() == kGroesse && !dateien->isDir(datei))
+      return deutsch.formattedDataSize(dateien->size(datei));
+    if (rolle == Qt::DisplayRole && index.column() == kDatum)
+      return deutsch.toString(dateien->lastModified(datei), QLocale::ShortFormat);
+    return QIdentityProxyModel::data(index, rolle);
+  }
+
+ private:
+  static constexpr int kGroesse = 1;  // Columns of QFileSystemModel.
+  static constexpr int kDatum = 3;
+};
+
+/// Icons told from the kind alone. Qt would read each file, and wait forever at an endless one.
+class Dateisymbole : public QFileIconProvider {
+ public:
+  QIcon icon(const QFileInfo &datei) const override {
+    return QFileIconProvider::icon(datei.isDir() ? Folder : File);
+  }
+  QString type(const QFileInfo &datei) const override { return datei.isDir() ? "Ordner" : "Datei"; }
+};
+
+}  // namespace
+
+void RichteDateidialogEin(QFileDialog &dialog) {
+  static Dateisymbole symbole;
+  dialog.setIconProvider(&symbole);
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setProxyModel(new DeutscheSpalten(&dialog));
+}

@@ -1,0 +1,12 @@
+#include <windows.h>
+
+#include <array>
+
+#include "platform/pfade.h"
+
+QString Datenwurzel() {
+  std::array<char, 200> ordner{};
+  const UINT laenge = GetWindowsDirectoryA(ordner.data(), static_cast<UINT>(ordner.size()));
+  // A longer folder than fits is not written at all.
+  return laenge < ordner.size() ? QString::fromLocal8Bit(ordner.data()).left(2) : QString();
+}

@@ -1,0 +1,11 @@
+#include "platform/taskleiste.h"
+
+#include <windows.h>
+
+#include <QWindow>
+
+void OhneTaskleiste(QWindow *fenster) {
+  auto *hwnd = reinterpret_cast<HWND>(fenster->winId());
+  const LONG_PTR stil = GetWindowLongPtrW(hwnd, GWL_EXSTYLE);
+  SetWindowLongPtrW(hwnd, GWL_EXSTYLE, (stil | WS_EX_TOOLWINDOW) & ~WS_EX_APPWINDOW);
+}
