@@ -1,0 +1,31 @@
+# What Windows shows of the program before it runs, and the portable ZIP and the installer that
+# `cpack` makes. The program and the files that it reads lie in one folder.
+enable_language(RC)
+
+set(ico ${CMAKE_CURRENT_BINARY_DIR}/glanzgrube.ico)
+set(symbole "")
+foreach(groesse 16 32 48 64 128 256)
+  list(APPEND symbole ${CMAKE_BINARY_DIR}/symbole/glanzgrube-${groesse}.png)
+endforeach()
+find_program(IMAGEMAGICK_CONVERT convert REQUIRED)
+add_custom_command(OUTPUT ${ico} COMMAND ${IMAGEMAGICK_CONVERT} ${symbole} ${ico}
+  DEPENDS symbole COMMENT "Icon of the program" VERBATIM)
+
+foreach(name glanzgrube.rc glanzgrube.manifest)
+  configure_file(windows/${name}.in ${name} @ONLY)
+endforeach()
+set(rc ${CMAKE_CURRENT_BINARY_DIR}/glanzgrube.rc)
+set_source_files_properties(${rc} PROPERTIES
+  OBJECT_DEPENDS "${ico};${CMAKE_CURRENT_BINARY_DIR}/glanzgrube.manifest")
+# An object library, because a resource in an archive would be dropped by the linker.
+add_library(beschreibung OBJECT ${rc} ${ico})
+target_include_directories(beschreibung PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
+target_link_libraries(glanzgrube PRIVATE beschreibung)
+
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION . RENAME LICENSE.txt)
+
+set(CPACK_GENERATOR ZIP NSIS)
+set(CPACK_PACKAGE_FILE_NAME glanzgrube-${PROJECT_VERSION}-windows)
+# The project's own script of the installer stands in place of CPack's, which wants an administrator.
+list(APPEND CMAKE_MODULE_PATH ${CMAKE_CURRENT_LIST_DIR})
+set(CPACK_NSIS_MUI_ICON ${ico})
