@@ -30,7 +30,7 @@ QRect Rechteck(const Twips &lage) {
 }
 
 QFont Schrift(double punkt, bool fett) {
-  QFont schrift("Arial");
+  QFont schrift(QStringList{"Arial", "Liberation Sans"});  // Letters of the same widths.
   schrift.setPixelSize(qRound(massstab * punkt * 96 / 72));
   schrift.setBold(fett);
   return schrift;

@@ -4,6 +4,8 @@
 
 class QFileDialog;
 
+/// Shows a dialog that is ready but for its look, and waits for it; true if a name was chosen.
+///
 /// Windows: the system's own dialog. Other systems: Qt's, which is German on a machine of any
 /// language.
-void RichteDateidialogEin(QFileDialog &dialog);
+bool ZeigeDateidialog(QFileDialog &dialog);

@@ -12,11 +12,10 @@ QString Dateidialog(QWidget *besitzer, const QString &titel, QFileDialog::Accept
   // Qt takes a missing folder for the name of a file to be chosen.
   const QString ordner = QFileInfo(Dialogordner).isDir() ? Dialogordner : QString();
   QFileDialog dialog(besitzer, titel, ordner, "Spieldateien (*.sar)");
-  RichteDateidialogEin(dialog);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.setAcceptMode(modus);
   dialog.setFileMode(QFileDialog::AnyFile);
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0).trimmed() : QString();
+  return ZeigeDateidialog(dialog) ? dialog.selectedFiles().value(0).trimmed() : QString();
 }
 
 }  // namespace

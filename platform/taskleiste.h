@@ -5,6 +5,7 @@
 class QWindow;
 
 /// Asks the desktop to leave a window out of its task bar and pager. The window must have been
-/// created and not been shown.
+/// created and not been shown. On Windows it is not activated by a click either, since it would
+/// come to lie above the others for good.
 /// Source for X servers: Extended Window Manager Hints, `_NET_WM_STATE`.
 void OhneTaskleiste(QWindow *fenster);

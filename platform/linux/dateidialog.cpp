@@ -8,10 +8,23 @@
 
 namespace {
 
+/// Icons told from the kind alone. Qt would read each file, and wait forever at an endless one.
+class Dateisymbole : public QFileIconProvider {
+ public:
+  QIcon icon(const QFileInfo &datei) const override {
+    return QFileIconProvider::icon(datei.isDir() ? Folder : File);
+  }
+  QString type(const QFileInfo &datei) const override { return datei.isDir() ? "Ordner" : "Datei"; }
+};
+
 /// Sizes and dates in German; Qt would write them in the language of the machine.
 class DeutscheSpalten : public QIdentityProxyModel {
  public:
-  explicit DeutscheSpalten(QObject *besitzer) : QIdentityProxyModel(besitzer) {}
+  /// Belongs to the dialog, and so goes after the dialog's own model, which reads the icons.
+  explicit DeutscheSpalten(QFileDialog &dialog) : QIdentityProxyModel(&dialog) {
+    dialog.setIconProvider(&symbole_);
+    dialog.setProxyModel(this);
+  }
 
   QVariant data(const QModelIndex &index, int rolle) const override {
     const auto *dateien = qobject_cast<const QFileSystemModel *>(sourceModel());
@@ -27,22 +40,14 @@ class DeutscheSpalten : public QIdentityProxyModel {
  private:
   static constexpr int kGroesse = 1;  // Columns of QFileSystemModel.
   static constexpr int kDatum = 3;
-};
 
-/// Icons told from the kind alone. Qt would read each file, and wait forever at an endless one.
-class Dateisymbole : public QFileIconProvider {
- public:
-  QIcon icon(const QFileInfo &datei) const override {
-    return QFileIconProvider::icon(datei.isDir() ? Folder : File);
-  }
-  QString type(const QFileInfo &datei) const override { return datei.isDir() ? "Ordner" : "Datei"; }
+  Dateisymbole symbole_;
 };
 
 }  // namespace
 
-void RichteDateidialogEin(QFileDialog &dialog) {
-  static Dateisymbole symbole;
-  dialog.setIconProvider(&symbole);
+bool ZeigeDateidialog(QFileDialog &dialog) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
-  dialog.setProxyModel(new DeutscheSpalten(&dialog));
+  new DeutscheSpalten(dialog);
+  return dialog.exec() == QDialog::Accepted;
 }

@@ -1,4 +1,10 @@
 #include "platform/dateidialog.h"
 
-// Qt shows the system's dialog unless it is told not to.
-void RichteDateidialogEin(QFileDialog &) {}
+#include <QFileDialog>
+
+bool ZeigeDateidialog(QFileDialog &dialog) {
+  const bool gewaehlt = dialog.exec() == QDialog::Accepted;
+  // The owner takes no input until the dialog has gone, so that the system has passed it over.
+  dialog.parentWidget()->activateWindow();
+  return gewaehlt;
+}
