@@ -40,23 +40,6 @@ TEST_F(Meldungen, jede_taste_und_jeder_knopf_gibt_seine_antwort) {
   }
 }
 
-TEST_F(Meldungen, eine_meldung_laesst_die_antwort_stehen) {
-  spiel.Antwort = kNein;
-  for (const bool maus : {true, false}) {
-    Dann<frmMsgOk>([maus](frmMsgOk &fenster) {
-      for (const char *taste : {"J", "N", "Return"})
-        Druecke(fenster, taste);
-      ASSERT_TRUE(fenster.isVisible());
-      if (maus)
-        Klick(Finde(fenster, "lblOk"));
-      else
-        Druecke(fenster, "Esc");
-    });
-    spielfeld->Melde(MeldungKeinDateiname());
-  }
-  EXPECT_EQ(spiel.Antwort, kNein);
-}
-
 TEST_F(Meldungen, stehen_auf_den_pixel_und_an_ihrem_ort) {
   const QRect haupt = spielfeld->frameGeometry();
   Dann<frmMsgJa>([&](frmMsgJa &fenster) {

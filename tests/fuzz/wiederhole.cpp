@@ -1,18 +1,17 @@
 /// @file
 /// Feeds every file of a folder to the fuzz target that it is linked with.
 #include <QDir>
-#include <cstdio>
 
-#include "tests/fuzz/fuzz_umgebung.h"
+#include "tests/platform/dateien.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *daten, std::size_t groesse);
 
 int main(int argc, char **argv) {
-  int anzahl = 0;
-  for (const QFileInfo &eintrag : QDir(argc > 1 ? argv[1] : "").entryInfoList(QDir::Files)) {
-    const QByteArray bytes = Inhalt(eintrag.filePath());
+  const auto dateien = QDir(argc > 1 ? argv[1] : "").entryInfoList(QDir::Files);
+  for (const QFileInfo &datei : dateien) {
+    const QByteArray bytes = Inhalt(datei.filePath());
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(bytes.constData()),
                            static_cast<std::size_t>(bytes.size()));
-    ++anzahl;
   }
-  std::printf("%d files\n", anzahl);
-  return anzahl > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+  return dateien.isEmpty() ? EXIT_FAILURE : EXIT_SUCCESS;
 }

@@ -1,0 +1,71 @@
+/// @file
+/// One fuzz target for each file format: FORMAT names the function below that the target calls.
+#include <QTemporaryDir>
+#include <cstdint>
+#include <cstdlib>
+
+#include "persistence/iniLumbra.h"
+#include "persistence/modBeste.h"
+#include "persistence/modDateiHandling.h"
+#include "tests/feldansicht.h"
+#include "tests/platform/dateien.h"
+
+namespace {
+
+FeldAnsicht ansicht;
+
+/// Ends the run as a finding.
+void Verlange(bool bedingung) {
+  if (!bedingung)
+    std::abort();
+}
+
+[[maybe_unused]] void ini(const QByteArray &bytes) {
+  Lege(IniPfad(), bytes);
+  LeseIni(ansicht);
+  Verlange(IstModus(spiel.Spielmodus) && ansicht.meldungen.empty());
+}
+
+[[maybe_unused]] void spielstand(const QByteArray &bytes) {
+  const QString pfad = IniPfad() + ".sar";
+  Lege(pfad, bytes);
+  LadeSpielstand(ansicht, pfad);
+  Verlange(!ansicht.meldungen.empty() && IstModus(spiel.Spielmodus));
+  const bool gefragt = ansicht.antworten.empty();
+  const bool geladen = gefragt && ansicht.meldungen.size() == 1;
+  Verlange(gefragt || spiel.Level == 0);
+  Verlange(!geladen || (spiel.Level >= 1 && spiel.Level <= kLetztesLevel &&
+                        spiel.SarantenRest == 76 - spiel.Level - spiel.Startfelder));
+  SpeichereSpielstand(ansicht, pfad);
+  Verlange(!geladen || ansicht.meldungen.size() == 1);
+}
+
+[[maybe_unused]] void beste(const QByteArray &bytes) {
+  Lege(BestenlistePfad(), bytes);
+  BestenlisteLaden(ansicht);
+  spiel.Punkte = 13600;
+  BestenlistePruefen(ansicht);
+  if (!BestenEintrag)
+    return;
+  BestenlisteSpeichern(ansicht);
+  const QStringList liste = lstName + lstPunkte;
+  ansicht.meldungen.clear();
+  BestenlisteLaden(ansicht);
+  // A list that was saved can be loaded and says the same.
+  Verlange(ansicht.meldungen.empty() && lstName + lstPunkte == liste);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *daten, std::size_t groesse) {
+  static const QTemporaryDir ordner("/dev/shm/fuzz-XXXXXX");  // In memory.
+  spiel = {};
+  spiel.Datenordner = ordner.path().toStdString();
+  spiel.DatenordnerAktiv = true;
+  lstName.clear();
+  lstPunkte.clear();
+  ansicht = {};
+  ansicht.antworten = {kJa};
+  FORMAT({reinterpret_cast<const char *>(daten), static_cast<qsizetype>(groesse)});
+  return 0;
+}
