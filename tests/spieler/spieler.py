@@ -1,7 +1,7 @@
 """The player that never tires: plays the game with mouse and keyboard and compares every step with
 its own model of the rules: tiles, numbers, panel, text, visible controls, files and sound.
 
-usage: tests/spieler/buehne spieler.py PROGRAM [--lang]
+usage: tests/spieler/buehne spieler.py PROGRAM [MODE]     MODE 1 to 3 plays all its 40 levels
 """
 
 import shutil
@@ -30,7 +30,7 @@ class Spieler:
     """Plays one run of the program."""
 
     def __init__(self, pfad, ohr, beim_start=(), ton=True, **umgebung):
-        self.ohr, self.ordner = ohr, Path(pfad).parent
+        self.ohr, self.ordner, self.schritte = ohr, Path(pfad).parent, 0
         self.modell = Modell(lies_dateien(), ton)
         self.programm = Programm(pfad, **umgebung)
         for meldung in beim_start:
@@ -62,6 +62,7 @@ class Spieler:
             return not abweichung
 
         warte(stimmt, lambda: abweichung)
+        self.schritte += 1
 
     def hoere(self, seit, klang):
         klang = klang if self.modell.ton else None
@@ -87,8 +88,8 @@ class Spieler:
     def schritt(self, handlung, klang=None):
         seit = len(self.ohr.spitzen)
         self.tue(handlung)
+        self.vergleiche()  # Before the sound, which is recorded meanwhile.
         self.hoere(seit, klang)
-        self.vergleiche()
 
     def menue(self, *namen):
         for name in namen:
@@ -106,8 +107,9 @@ class Spieler:
         self.klick(zelle)
         warte(lambda: not element.name.endswith(VERDECKT), f"{zelle} geht auf")
         self.modell.brett.lerne(zelle, element.name.endswith(SARANT))
-        self.hoere(seit, self.modell.klicke_links(zelle))
-        return self.vergleiche()
+        klang = self.modell.klicke_links(zelle)
+        self.vergleiche()
+        return self.hoere(seit, klang)
 
     def markiere(self, zelle, knopf=3):
         self.modell.klicke_rechts(zelle)
@@ -389,31 +391,34 @@ def kurz(pfad, ohr):
             spiel.ende("Beenden")
 
 
-def lang(pfad, ohr):
-    """All 40 levels in each mode, to the messages at the end."""
-    for modus in MODI:
-        with Spieler(pfad, ohr) as spiel:
-            modell = spiel.modell
-            if modus != modell.modus:
-                modell.waehle_modus(modus)
-                spiel.schritt(MODI[modus])
-            spiel.schritt("Neues Spiel", modell.neues_spiel())
+def lang(pfad, ohr, modus):
+    """All 40 levels of a mode, to the messages at the end."""
+    with Spieler(pfad, ohr) as spiel:
+        modell = spiel.modell
+        if modus != modell.modus:
+            modell.waehle_modus(modus)
+            spiel.schritt(MODI[modus])
+        spiel.schritt("Neues Spiel", modell.neues_spiel())
+        spiel.gewinne()
+        while modell.level < 40:
+            spiel.schritt("Nächster Level", modell.naechster_level())
             spiel.gewinne()
-            while modell.level < 40:
-                spiel.schritt("Nächster Level", modell.naechster_level())
-                spiel.gewinne()
-                print(f"{MODI[modus]} {modell.level}: {modell.punkte} Punkte", flush=True)
-            modell.punkte += modell.levelpunkte
-            seit = len(ohr.spitzen)
-            spiel.tue("Nächster Level")
-            spiel.bestaetige("Dank", "OK", seit=spiel.spielende(seit, "Escape"))
-            spiel.ende()
+            print(f"{MODI[modus]} {modell.level}: {modell.punkte} Punkte, {spiel.schritte} Schritte",
+                  flush=True)
+        modell.punkte += modell.levelpunkte
+        seit = len(ohr.spitzen)
+        spiel.tue("Nächster Level")
+        spiel.bestaetige("Dank", "OK", seit=spiel.spielende(seit, "Escape"))
+        spiel.ende()
 
 
 if __name__ == "__main__":
     OHR = Ohr()
     try:
-        (lang if "--lang" in sys.argv else kurz)(sys.argv[1], OHR)
+        if len(sys.argv) > 2:
+            lang(sys.argv[1], OHR, int(sys.argv[2]))
+        else:
+            kurz(sys.argv[1], OHR)
     finally:
         OHR.schliesse()
     print("ohne Abweichung")
