@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
+#include <QPixmapCache>
 #include <QScreen>
 #include <QTranslator>
 #include <algorithm>
@@ -40,6 +41,8 @@ void RichteAnwendungEin(QApplication &anwendung) {
   if (uebersetzung->load(":/uebersetzung/qtbase_de.qm"))
     QApplication::installTranslator(uebersetzung);
   QApplication::setDesktopFileName("example.glanzgrube.Glanzgrube");
+  // The game keeps its own pictures. Here only the icons of closed file dialogs would pile up.
+  QPixmapCache::setCacheLimit(0);
   RichteZugangEin();
 }
 
