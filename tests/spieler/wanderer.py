@@ -62,10 +62,8 @@ class Wanderer:
 
     def fensterzug(self):
         """Moves a window or puts it away, and gives it back the focus."""
-        ort = [self.zufall.randrange(600), self.zufall.randrange(300)]
-        xdotool("search", "--onlyvisible", "--name", "Glanzgrube",
-                *self.zufall.choice((["windowmove", *ort], ["windowminimize"])), "sleep", 0.1,
-                "windowactivate")
+        tat = self.zufall.choice(("windowmove 90 60", "windowmove 350 250", "windowminimize"))
+        xdotool(*f"search --onlyvisible --name Glanzgrube {tat} sleep 0.1 windowactivate".split())
 
     def loese(self):
         """Opens what the numbers force, so that levels are won now and then."""
@@ -90,8 +88,7 @@ class Wanderer:
             return self.datei()
         wuerfe = {self.feldklick: 60, self.knopf: 25, self.loese: 4, self.zug: 5,
                   self.fensterzug: 2, lambda: time.sleep(self.zufall.random()): 3,
-                  lambda: taste(*self.zufall.choice(TASTEN).split()): 28,
-                  lambda: taste(*self.zufall.choice(ENDE).split()): 0.03}
+                  lambda: taste(*self.zufall.choice(100 * TASTEN + ENDE).split()): 28}
         return self.zufall.choices(*zip(*wuerfe.items()))[0]()
 
     # The look at the whole.
