@@ -79,18 +79,6 @@ class Kern : public testing::Test {
   FeldAnsicht ansicht;
 };
 
-TEST_F(Kern, wartet_mit_lauter_nullen_und_toten_zellen) {
-  for (const int taste : {kLinkeTaste, kRechteTaste})
-    Klick(1, taste);
-  EXPECT_EQ(Punkte() + Levelpunkte() + Auswertung(), "____0____0_0_0");
-  EXPECT_EQ(ansicht.ziffern.at({Ziffernreihe::imgAuswertung, 5}),
-            FeldAnsicht::Ziffer(Ziffernfarbe::Rot, kLeereZiffer));
-  EXPECT_EQ(ansicht.timer[Pfeil::Start], 300);
-  EXPECT_EQ(ansicht.modustext, "Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\"");
-  EXPECT_EQ(Zaehle(Kachel::Verdeckt), kZellen);
-  EXPECT_TRUE(ansicht.klaenge.empty());
-}
-
 TEST_F(Kern, schreibt_punkte_rechtsbuendig_und_laesst_die_einer_sonst_stehen) {
   std::istringstream tafel(
       "7 ____7 42 ___42 500 __500 1750 _1750 20500 20500 99999 99999 -1 ____9 10 ___10 "

@@ -103,32 +103,20 @@ TEST_F(Optionen, jede_stufe_in_jedem_modus_beginnt_ihr_spiel) {
       QStringList klicks;
       if (stufe != 0)  // The first tier is chosen already, and its face takes no clicks.
         klicks << "imgLevel" + QString::number(stufe);
-      if (modus != spiel.Spielmodus)
+      const bool neu = modus != spiel.Spielmodus;
+      if (neu)
         klicks << "imgModus" + QString::number(modus);
-      Waehle(klicks << "cmdNehmen");
+      Lege(Datei("sarant.ini"), "fremd");
+      Waehle(klicks << "cmdNehmen", "N");
+      EXPECT_NE(spiel.Punkte, kPunkte[modus - 1][stufe]);
+      Waehle(klicks);
       EXPECT_EQ(spiel.Level, 5 * stufe + 1);
       EXPECT_EQ(spiel.Spielmodus, modus);
       EXPECT_EQ(spiel.Punkte, kPunkte[modus - 1][stufe]);
-      EXPECT_EQ(Inhalt(Datei("sarant.ini")), QByteArray::number(modus) + "\r\n");
+      // A mode that stays as it was is not written.
+      EXPECT_EQ(Inhalt(Datei("sarant.ini")), neu ? QByteArray::number(modus) + "\r\n" : "fremd");
     }
   }
-}
-
-TEST_F(Optionen, ohne_ja_gilt_nur_der_ton_und_ein_unveraenderter_modus_schreibt_nichts) {
-  Klick("imgNeuesSpiel");
-  const auto brett = spiel.lstWiederHolen;
-  Lege(Datei("sarant.ini"), "fremd");
-  for (const char *ende : {"cmdEnde", "imgLevel4", "cmdNehmen"}) {
-    spiel.SoundAn = false;
-    Waehle({"imgLevel3", "imgModus1", ende}, "N");
-    EXPECT_EQ(spiel.lstWiederHolen, brett);
-    EXPECT_EQ(spiel.Spielmodus, kModusNormal);
-    EXPECT_EQ(spiel.Punkte, 500);
-    EXPECT_FALSE(spiel.SoundAn);
-  }
-  Waehle({"cmdNehmen"});
-  EXPECT_NE(spiel.lstWiederHolen, brett);
-  EXPECT_EQ(Inhalt(Datei("sarant.ini")), "fremd");
 }
 
 TEST_F(Optionen, stehen_auf_den_pixel) {
