@@ -28,6 +28,7 @@ void frmHintergrund::SpanneBild() {
   Image1 = stein.scaled((QSizeF(size()) * stein.devicePixelRatio()).toSize(), Qt::IgnoreAspectRatio,
                         Qt::SmoothTransformation);
   setUpdatesEnabled(true);
+  repaint();  // Now, since the question for a sound device may take its time.
 }
 
 void frmHintergrund::paintEvent(QPaintEvent *ereignis) {
