@@ -59,8 +59,10 @@ void Main(frmSpielfeld &fenster, const QString &datenwurzel) {
   BestenlisteLaden(fenster);
   NachErstemBlick(&fenster, [&fenster] {  // A slow sound server keeps no one from looking.
     QApplication::setWindowIcon(QIcon(Bilddatei("fenstersymbol")));
-    spiel.SoundAn = SoundGeraetDa();
-    fenster.ErlaubeSound(spiel.SoundAn);
+    if (!SoundGeraetDa()) {
+      spiel.SoundAn = false;
+      fenster.ErlaubeSound(false);
+    }
   });
   WarteAufSpiel(fenster);
   // The cover goes first, so that the main window ends up above it.
