@@ -360,7 +360,6 @@ void frmSpielfeld::PanelAufbauen(QWidget *flaeche) {
 }
 
 void frmSpielfeld::MenueAufbauen() {
-  menuBar()->setNativeMenuBar(false);
   // The blanks behind the first two captions keep the heads of the menus apart.
   QMenu *mnuMenue1 = menuBar()->addMenu("&Spiel                     ");
   mnuSpiel_[1] = mnuMenue1->addAction("Neues Spiel", QKeySequence(Qt::CTRL | Qt::Key_N));

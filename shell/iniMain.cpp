@@ -40,6 +40,8 @@ void RichteAnwendungEin(QApplication &anwendung) {
   auto *uebersetzung = new QTranslator(&anwendung);
   if (uebersetzung->load(":/uebersetzung/qtbase_de.qm"))
     QApplication::installTranslator(uebersetzung);
+  // A menu bar would ask the session bus for a place on the desktop.
+  QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication::setDesktopFileName("example.glanzgrube.Glanzgrube");
   // The game keeps its own pictures. Here only the icons of closed file dialogs would pile up.
   QPixmapCache::setCacheLimit(0);
