@@ -7,6 +7,8 @@
 #include "dialogs/bilder.h"
 
 void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild) {
+  if (bild.isNull())  // A message shows before the main window does.
+    LadeGemerkteBilder();
   // Undoing the painter's scale leaves a mere translation, for which Qt copies pixel by pixel.
   const double geraetepixel = bild.devicePixelRatio();
   const QTransform vorher = maler.worldTransform();

@@ -1,10 +1,12 @@
 #include "dialogs/bilder.h"
 
 #include <QFile>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QImage>
 #include <array>
 #include <cmath>
+#include <future>
 #include <map>
 #include <memory>
 
@@ -18,6 +20,8 @@ constexpr QPoint kZeigerspitze(5, 0);
 
 struct Katalog {
   std::map<QString, std::unique_ptr<QPixmap>> bilder;
+  std::map<QString, std::future<QImage>> vorgelesen;  ///< Each is used once.
+  bool merktNur = true;
   double geraetepixel = qGuiApp->devicePixelRatio();
   int geladen = 0;
 };
@@ -33,21 +37,33 @@ QString Ressource(const QString &name, int aufloesung) {
   return QFile::exists(stamm + ".png") ? stamm + ".png" : stamm + ".jpg";
 }
 
-/// The picture in exact device pixels: taken as rendered, or scaled down once from the next larger
-/// rendering if the ratio is a fraction.
-QPixmap Lade(const QString &name, double geraetepixel) {
-  const double vergroesserung = geraetepixel * Massstab();
+/// The picture in device pixels: taken as rendered, or scaled down once from the next larger
+/// rendering if the enlargement is a fraction. Uses nothing of the catalogue: a thread may run it.
+QImage Lies(const QString &name, double vergroesserung) {
   int aufloesung = std::clamp(static_cast<int>(std::ceil(vergroesserung)), 1, kHoechsteAufloesung);
   while (aufloesung > 1 && !QFile::exists(Ressource(name, aufloesung)))
     --aufloesung;
   QImage bild(Ressource(name, aufloesung));
-  ++DerKatalog().geladen;
   const QSize ziel = (QSizeF(bild.size()) * vergroesserung / aufloesung).toSize();
   if (ziel != bild.size())
     bild = bild.scaled(ziel, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  QPixmap fertig = QPixmap::fromImage(std::move(bild));
-  fertig.setDevicePixelRatio(geraetepixel);
+  return bild;
+}
+
+QPixmap Lade(const QString &name) {
+  Katalog &katalog = DerKatalog();
+  ++katalog.geladen;
+  auto vorgelesen = katalog.vorgelesen.extract(name);
+  QPixmap fertig = QPixmap::fromImage(vorgelesen ? vorgelesen.mapped().get()
+                                                 : Lies(name, katalog.geraetepixel * Massstab()));
+  fertig.setDevicePixelRatio(katalog.geraetepixel);
   return fertig;
+}
+
+void LadeAlle() {
+  DerKatalog().merktNur = false;
+  for (auto &[name, bild] : DerKatalog().bilder)
+    *bild = Lade(name);
 }
 
 template <std::size_t N>
@@ -73,8 +89,22 @@ const QPixmap &Bilddatei(const QString &name) {
   Katalog &katalog = DerKatalog();
   std::unique_ptr<QPixmap> &eintrag = katalog.bilder[name];
   if (!eintrag)
-    eintrag = std::make_unique<QPixmap>(Lade(name, katalog.geraetepixel));
+    eintrag = std::make_unique<QPixmap>(katalog.merktNur ? QPixmap() : Lade(name));
   return *eintrag;
+}
+
+void BeginneVorarbeit(const QString &bild) {
+  Katalog &katalog = DerKatalog();
+  const double vergroesserung = katalog.geraetepixel * Massstab();
+  katalog.vorgelesen[bild] = std::async(std::launch::async, [bild, vergroesserung] {
+    QFontDatabase::families();
+    return Lies(bild, vergroesserung);
+  });
+}
+
+void LadeGemerkteBilder() {
+  if (DerKatalog().merktNur)
+    LadeAlle();
 }
 
 void StelleBilderAuf(double geraetepixel) {
@@ -82,8 +112,8 @@ void StelleBilderAuf(double geraetepixel) {
   if (qFuzzyCompare(katalog.geraetepixel, geraetepixel))
     return;
   katalog.geraetepixel = geraetepixel;
-  for (auto &[name, bild] : katalog.bilder)
-    *bild = Lade(name, geraetepixel);
+  katalog.vorgelesen.clear();
+  LadeAlle();
 }
 
 int GeladeneBilder() {
@@ -91,7 +121,7 @@ int GeladeneBilder() {
 }
 
 QCursor Handzeiger() {
-  static const QCursor zeiger(Bilddatei("handzeiger"), kZeigerspitze.x(), kZeigerspitze.y());
+  static const QCursor zeiger(Lade("handzeiger"), kZeigerspitze.x(), kZeigerspitze.y());
   return zeiger;
 }
 

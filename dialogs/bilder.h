@@ -7,9 +7,18 @@
 #include <QPixmap>
 #include <QString>
 
-/// A picture of the program by its file name, loaded at its first use. The reference stays valid
-/// and keeps its address for the life of the process.
+/// A picture of the program by its file name. The reference stays valid and keeps its address for
+/// the life of the process. The picture is loaded at its first use, but at the start of the program
+/// it is empty until LadeGemerkteBilder().
 const QPixmap &Bilddatei(const QString &name);
+
+/// Begins in a thread of its own what takes longest at the start: to look up the fonts of the
+/// system, then to read a picture. Who needs either waits for it, and the picture must be used.
+void BeginneVorarbeit(const QString &bild);
+
+/// Loads the pictures that were asked for so far, and ends the start: until then they are only
+/// noted, so that the windows are on their way to the screen first.
+void LadeGemerkteBilder();
 
 /// Brings all loaded pictures to another ratio of device pixels, in place.
 void StelleBilderAuf(double geraetepixel);

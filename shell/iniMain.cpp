@@ -72,4 +72,5 @@ void Main(frmSpielfeld &fenster, const QString &datenwurzel) {
   QObject::connect(qApp, &QCoreApplication::aboutToQuit, hintergrund, &QObject::deleteLater);
   hintergrund->show();
   fenster.show();
+  LadeGemerkteBilder();  // Meanwhile the desktop frames the windows.
 }

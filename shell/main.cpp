@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "dialogs/bilder.h"
 #include "dialogs/masse.h"
 #include "platform/pfade.h"
 #include "shell/frmSpielfeld.h"
@@ -8,6 +9,7 @@
 int main(int argc, char *argv[]) {
   QApplication anwendung(argc, argv);
   StelleMassstab(Schrumpffaktor());
+  BeginneVorarbeit("spielfeld");
   RichteAnwendungEin(anwendung);
   frmSpielfeld fenster;
   Main(fenster, Datenwurzel());
