@@ -96,7 +96,7 @@ const QPixmap &Bilddatei(const QString &name) {
 void BeginneVorarbeit(const QString &bild) {
   Katalog &katalog = DerKatalog();
   const double vergroesserung = katalog.geraetepixel * Massstab();
-  katalog.vorgelesen[bild] = std::async(std::launch::async, [bild, vergroesserung] {
+  katalog.vorgelesen[bild] = std::async([bild, vergroesserung] {
     QFontDatabase::families();
     return Lies(bild, vergroesserung);
   });
