@@ -8,6 +8,7 @@
 #include "core/zahlen.h"
 #include "core/zug.h"
 #include "dialogs/bilder.h"
+#include "platform/pfade.h"
 #include "shell/frmSpielfeld.h"
 #include "shell/iniMain.h"
 #include "tests/feldansicht.h"
@@ -38,7 +39,7 @@ BENCHMARK(AufLevel1<ZugAuswerten>)->Name("Auswertung")->Unit(benchmark::kMicrose
 /// meanwhile.
 void LevelImFenster(benchmark::State &state) {
   frmSpielfeld fenster;
-  Main(fenster);
+  Main(fenster, Datenwurzel());
   spiel.SoundAn = false;
   QApplication::processEvents();
   const int vorher = GeladeneBilder();
