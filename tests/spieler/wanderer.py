@@ -20,6 +20,9 @@ TASTEN = ("ctrl+n", "ctrl+s", "ctrl+o", "F1", "Escape", "Return", "j", "n", "J",
           "alt+o Down Down Return", "alt+s Right Right Escape Escape")
 ENDE = "alt+s e j", "alt+s e n", "alt+s e Escape", "alt+F4"
 PRUEFPAUSE = 15.0  # seconds between two looks at the whole window
+# A window or a level has changed or gone while it was looked at.
+VERGANGEN = (GLib.GError, IndexError, ValueError, NotImplementedError,
+             subprocess.CalledProcessError)
 LANGER_LAUF, WACHSTUM = 3000, 2.0  # throws; MB of the last quarter above the first
 
 
@@ -126,9 +129,10 @@ class Wanderer:
         level, rest, fehler = (int(tafel[n]) for n in ("Level", "noch offen", "Fehlversuche"))
         anzahl = 76 - level if level else 0
         gewonnen, verloren = level > 0 and rest == 0, fehler == 2
+        # Up to level 5 the mode without start cells leaves the text of the step before.
         ergebnis, meldung = ((("400", "450", "500"), "»Nächster Level«") if gewonnen else
                              (("100",), "»Wiederholen«") if verloren else
-                             (("leer",), f"Es sind {anzahl} Saranten" if level else "Spielmodus"))
+                             (("leer",), f"Es sind {anzahl} Saranten" if level > 5 else ""))
         regeln = {
             "Zahlen": summen == [anzahl, anzahl],
             "Rest": len(kacheln) == 100 and rest == anzahl - kacheln.count(SARANT),
@@ -169,10 +173,9 @@ class Wanderer:
                 zustand = Path(f"/proc/{self.programm.prozess.pid}/status").read_text()
                 kb = re.findall(r"Rss(?:Anon|Shmem):\s+(\d+)", zustand)
                 self.speicher[-1].append(sum(map(int, kb)))
-            except (GLib.GError, IndexError, ValueError, Abweichung) as fehler:
-                # A window, a level or the program has changed or gone while it was looked at.
+            except Exception as fehler:  # The program may have ended while it was looked at.
                 time.sleep(1)
-                if isinstance(fehler, Abweichung) and self.programm.prozess.poll() is None:
+                if self.programm.prozess.poll() is None and not isinstance(fehler, VERGANGEN):
                     raise
             if self.programm.prozess.poll() is not None:
                 self.programm.ende()
