@@ -101,8 +101,8 @@ class Wanderer:
         def ist_leer():
             ohne_ja = [e for dialog in self.programm.offene() for e in alle(dialog)
                        if e.getRole() in KNOPFROLLEN and e.name in ("Schließen", "Nein", "OK")]
-            for knopf in ohne_ja[:1]:
-                klicke(knopf)
+            if ohne_ja:  # Some cannot be clicked: they lie off the screen or behind a modal window.
+                self.zufall.choice(ohne_ja).queryAction().doAction(0)
             taste("Escape")
             return not self.programm.offene()
 
