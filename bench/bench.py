@@ -163,6 +163,7 @@ def main():
         ("Resident memory", f"{mb:.1f} MB"),
         ("The same, bare Qt window with one picture", f"{mb_leer:.1f} MB"),
         ("Memory above the bare window", f"{mb - mb_leer:.1f} MB"),
+        ("Ratio of the memory", f"{mb / mb_leer:.2f}"),
         ("Processor time of an idle minute, playing", f"{spielend:.0f} ms"),
         ("Processor time of an idle minute, solved (arrow blinks)", f"{geloest:.0f} ms")]
     ergebnis.write_text("# Benchmarks\n\nWritten by `scripts/bench`; no test fails on a clock.\n\n"
