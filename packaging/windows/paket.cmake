@@ -23,6 +23,8 @@ target_include_directories(beschreibung PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
 target_link_libraries(glanzgrube PRIVATE beschreibung)
 
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION . RENAME LICENSE.txt)
+# Qt and the libraries in it are part of the program here; what they demand to be told is told.
+install(FILES /usr/share/doc/qt6-base-dev/copyright DESTINATION . RENAME LICENSE-Qt.txt)
 
 set(CPACK_GENERATOR ZIP NSIS)
 set(CPACK_PACKAGE_FILE_NAME glanzgrube-${PROJECT_VERSION}-windows)
