@@ -1,47 +1,42 @@
 #include "platform/tongeraet.h"
 
-#include <QAudioDevice>
 #include <QCoreApplication>
-#include <QMediaDevices>
-#include <QPointer>
-#include <QSoundEffect>
-#include <QUrl>
+#include <QLibrary>
 
 #include "platform/mod_MySound.h"
 
 namespace {
 
-/// The effect that was started last. The application owns it, so that it never outlives the
-/// connection to the sound server.
-QPointer<QSoundEffect> Effekt;
+/// What klang.cpp offers; nothing if its library is missing, and the game is silent then.
+struct Klang {
+  bool (*geraetDa)() = nullptr;
+  void (*spiele)(const QString &pfad) = nullptr;
 
-/// Keeps Qt from telling standard error that a machine has no sound server.
-class Stille {
- public:
-  Stille()
-      : vorher(
-            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {})) {
+  Klang() {
+    const QString hier = QCoreApplication::applicationDirPath();
+    for (const QString &ordner : {hier, hier + "/../" KLANGORDNER}) {
+      QLibrary bibliothek(ordner + "/libklang.so");
+      bibliothek.setLoadHints(QLibrary::PreventUnloadHint);
+      if (!bibliothek.load())
+        continue;
+      geraetDa = reinterpret_cast<decltype(geraetDa)>(bibliothek.resolve("KlangGeraetDa"));
+      spiele = reinterpret_cast<decltype(spiele)>(bibliothek.resolve("KlangSpiele"));
+      return;
+    }
   }
-  ~Stille() { qInstallMessageHandler(vorher); }
-  Stille(const Stille &) = delete;
-  Stille &operator=(const Stille &) = delete;
-
- private:
-  QtMessageHandler vorher;
 };
+
+const Klang &DerKlang() {
+  static const Klang klang;
+  return klang;
+}
 
 }  // namespace
 
 bool SoundGeraetDa() {
-  const Stille stille;
-  return !QMediaDevices::audioOutputs().isEmpty();
+  return DerKlang().geraetDa && DerKlang().geraetDa();
 }
 
 void SpieleWellendatei(const QString &pfad) {
-  // An effect is bound to the device that it was loaded for, and the default device may have
-  // changed since the last one.
-  delete Effekt;
-  Effekt = new QSoundEffect(QCoreApplication::instance());
-  Effekt->setSource(QUrl::fromLocalFile(pfad));
-  Effekt->play();
+  DerKlang().spiele(pfad);
 }

@@ -11,7 +11,6 @@ from fnmatch import fnmatchcase
 from modell import *
 from sinne import *
 
-BEGINN = 3.0  # seconds in which an effect must have begun
 RUHE = 0.4  # seconds without a signal that prove that there is no effect
 ABGESCHNITTEN = 12  # hundredths of its end that the sound system may swallow
 LISTE, OPTIONEN = "Beste Spieler ", "Form1"
@@ -66,7 +65,7 @@ class Spieler:
 
     def hoere(self, seit, klang):
         klang = klang if self.modell.ton else None
-        gehoert = self.ohr.hoere(seit, BEGINN if klang else RUHE)
+        gehoert = self.ohr.hoere(seit, GEDULD if klang else RUHE)
         soll = self.ohr.laenge_der_datei(self.beilage(klang)) if klang else 0
         if not min(soll, max(1, soll - ABGESCHNITTEN)) <= gehoert <= soll * 1.3:
             raise Abweichung(f"{gehoert} Hundertstel Klang statt {soll} von {klang}")
