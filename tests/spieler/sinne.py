@@ -51,6 +51,7 @@ class Ohr(threading.Thread):
     RATE = 44100
     LEISE = 30
     STILLE = 12  # Hundredths without a signal that end an effect.
+    LUECKE = 60  # Hundredths that may be missing within an effect while the machine is busy.
 
     def __init__(self):
         super().__init__(daemon=True)
@@ -81,12 +82,17 @@ class Ohr(threading.Thread):
             daten = datei.readframes(datei.getnframes())
         return self.laenge([self.spitze(daten[i:i + takt]) for i in range(0, len(daten), takt)])
 
-    def hoere(self, seit, geduld):
+    def hoere(self, seit, geduld, mindestens):
         """Waits for a signal and for its end; returns its length, 0 if none came in time."""
+        def still():
+            spitzen = self.spitzen[seit:]
+            ende = self.STILLE if self.laenge(spitzen) >= mindestens else self.LUECKE
+            return not self.laenge(spitzen[-ende:])
+
         ende = time.monotonic() + geduld
         while time.monotonic() < ende and not self.laenge(self.spitzen[seit:]):
             time.sleep(0.02)
-        warte(lambda: not self.laenge(self.spitzen[seit:][-self.STILLE:]), "Stille")
+        warte(still, "Stille")
         if max(self.spitzen[seit:], default=0) >= 32767:
             raise Abweichung("der Klang ist übersteuert")
         return self.laenge(self.spitzen[seit:])
