@@ -5,5 +5,5 @@
 #include <QString>
 
 /// Starts to play a file and returns at once; the one that still plays is cut off. A failure is
-/// silent. @pre There is a device.
+/// silent.
 void SpieleWellendatei(const QString &pfad);

@@ -38,5 +38,6 @@ bool SoundGeraetDa() {
 }
 
 void SpieleWellendatei(const QString &pfad) {
-  DerKlang().spiele(pfad);
+  if (const auto spiele = DerKlang().spiele)
+    spiele(pfad);
 }
