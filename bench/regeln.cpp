@@ -3,12 +3,12 @@
 
 #include <QApplication>
 
+#include "controls/bilder.h"
 #include "core/befehle.h"
 #include "core/level.h"
 #include "core/zahlen.h"
 #include "core/zug.h"
-#include "dialogs/bilder.h"
-#include "platform/pfade.h"
+#include "platform/datenwurzel.h"
 #include "shell/frmSpielfeld.h"
 #include "shell/iniMain.h"
 #include "tests/feldansicht.h"

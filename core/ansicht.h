@@ -30,7 +30,7 @@ enum class Pfeil {
 inline constexpr int kKeinPfeil = 2;
 
 /// Rows of digit places in the panel; place 0 of a row holds the units.
-enum class Ziffernreihe { imgPunkte, imgLevel, imgAuswertung };
+enum class Panelreihe { imgPunkte, imgLevel, imgAuswertung };
 
 enum class Ziffernfarbe { Gruen, Rot };
 inline constexpr int kLeereZiffer = 10;  ///< The digit picture with all segments unlit.
@@ -52,7 +52,7 @@ class Ansicht {
 
   // Panel and texts.
   /// @param ziffer   0 to 9, or `kLeereZiffer`.
-  virtual void SetzeZiffer(Ziffernreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) = 0;
+  virtual void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) = 0;
   virtual void SetzeModustext(const std::string &text) = 0;
   virtual void SetzeModusfarbe(Textfarbe farbe) = 0;
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/zug.h"
+#include "core/bestand.h"
 
 namespace {
 
@@ -15,14 +15,14 @@ constexpr int kStelleLevel = 0;
 constexpr int kStelleRest = 2;
 constexpr int kStelleFehler = 4;
 
-void LeereStellen(Ansicht &ansicht, Ziffernreihe reihe, int von, int bis,
+void LeereStellen(Ansicht &ansicht, Panelreihe reihe, int von, int bis,
                   Ziffernfarbe farbe = Ziffernfarbe::Gruen) {
   for (int stelle = von; stelle <= bis; ++stelle)
     ansicht.SetzeZiffer(reihe, stelle, farbe, kLeereZiffer);
 }
 
 /// Writes the digits of a number that is not negative, the units in place 0.
-void ZeigeZiffern(Ansicht &ansicht, Ziffernreihe reihe, int wert, Ziffernfarbe farbe) {
+void ZeigeZiffern(Ansicht &ansicht, Panelreihe reihe, int wert, Ziffernfarbe farbe) {
   const std::string text = std::to_string(wert);
   int stelle = static_cast<int>(text.size());
   for (const char ziffer : text)
@@ -33,8 +33,8 @@ void ZeigeZiffern(Ansicht &ansicht, Ziffernreihe reihe, int wert, Ziffernfarbe f
 void ZeigePaar(Ansicht &ansicht, int einer, int wert, Ziffernfarbe farbe) {
   const std::string text = std::to_string(wert);
   const int zehner = wert > 9 ? text.front() - '0' : kLeereZiffer;
-  ansicht.SetzeZiffer(Ziffernreihe::imgAuswertung, einer + 1, farbe, zehner);
-  ansicht.SetzeZiffer(Ziffernreihe::imgAuswertung, einer, farbe, text.back() - '0');
+  ansicht.SetzeZiffer(Panelreihe::imgAuswertung, einer + 1, farbe, zehner);
+  ansicht.SetzeZiffer(Panelreihe::imgAuswertung, einer, farbe, text.back() - '0');
 }
 
 }  // namespace
@@ -45,28 +45,28 @@ void ZeigeStatus(Ansicht &ansicht) {
   ZeigePaar(ansicht, kStelleLevel, spiel.Level, Ziffernfarbe::Gruen);
   ZeigePaar(ansicht, kStelleRest, spiel.SarantenRest, Ziffernfarbe::Gruen);
   ZeigePaar(ansicht, kStelleFehler, spiel.Fehler, Ziffernfarbe::Rot);
-  LeereStellen(ansicht, Ziffernreihe::imgPunkte, 1, kPunktstellen - 1);
+  LeereStellen(ansicht, Panelreihe::imgPunkte, 1, kPunktstellen - 1);
   if (spiel.Punkte >= 0 && spiel.Punkte <= kMaxPunkte)
-    ZeigeZiffern(ansicht, Ziffernreihe::imgPunkte, spiel.Punkte, Ziffernfarbe::Gruen);
+    ZeigeZiffern(ansicht, Panelreihe::imgPunkte, spiel.Punkte, Ziffernfarbe::Gruen);
 }
 
 void LeereLevelpunkte(Ansicht &ansicht) {
-  LeereStellen(ansicht, Ziffernreihe::imgLevel, 0, kLevelpunktstellen - 1);
+  LeereStellen(ansicht, Panelreihe::imgLevel, 0, kLevelpunktstellen - 1);
 }
 
 void ZeigeLevelpunkte(Ansicht &ansicht, int betrag, Ziffernfarbe farbe) {
-  ZeigeZiffern(ansicht, Ziffernreihe::imgLevel, betrag, farbe);
+  ZeigeZiffern(ansicht, Panelreihe::imgLevel, betrag, farbe);
 }
 
 void ZeigeLevelwertung(Ansicht &ansicht) {
-  LeereStellen(ansicht, Ziffernreihe::imgPunkte, 0, kPunktstellen - 1);
+  LeereStellen(ansicht, Panelreihe::imgPunkte, 0, kPunktstellen - 1);
   ZeigeLevelpunkte(ansicht, spiel.Levelpunkte, Ziffernfarbe::Gruen);
   if (spiel.Punkte > 0 && spiel.Punkte <= kMaxPunkte)
-    ZeigeZiffern(ansicht, Ziffernreihe::imgPunkte, spiel.Punkte, Ziffernfarbe::Gruen);
+    ZeigeZiffern(ansicht, Panelreihe::imgPunkte, spiel.Punkte, Ziffernfarbe::Gruen);
 }
 
 void LeerePanel(Ansicht &ansicht) {
-  LeereStellen(ansicht, Ziffernreihe::imgPunkte, 0, kPunktstellen - 1);
-  LeereStellen(ansicht, Ziffernreihe::imgAuswertung, kStelleFehler, kStelleFehler + 1,
+  LeereStellen(ansicht, Panelreihe::imgPunkte, 0, kPunktstellen - 1);
+  LeereStellen(ansicht, Panelreihe::imgAuswertung, kStelleFehler, kStelleFehler + 1,
                Ziffernfarbe::Rot);
 }

@@ -3,14 +3,12 @@
 #include "core/anzeige.h"
 #include "core/level.h"
 #include "core/zahlen.h"
-#include "core/zug.h"
 
 namespace {
 
 constexpr int kBlinkenStart = 300;  // milliseconds
 constexpr std::int32_t kPunkteJeLevel = 300;
 constexpr std::int32_t kPunkteJeLevelExperte = 350;
-constexpr int kModusExperte = 3;
 
 /// Adds the result of a level to the points.
 void VerbucheLevelpunkte() {
@@ -28,6 +26,7 @@ void WarteAufSpiel(Ansicht &ansicht) {
   LeerePanel(ansicht);
   spiel.AnzahlSaranten = 75;
   ZeigeStatus(ansicht);
+  ansicht.ZeigePfeil(Pfeil::Start, spiel.StartBlinkphase);
   ansicht.StelleTimer(Pfeil::Start, kBlinkenStart);
   // The straight quote at the end belongs to the text.
   ansicht.SetzeModustext("Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\"");

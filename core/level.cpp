@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr int kModusExperte = 3;
-
 struct Startstufe {
   int bisLevel;
   std::array<std::int16_t, kModi> felder;

@@ -16,6 +16,8 @@ inline constexpr int kStartpunkte = 500;   ///< Points of a new game at level 1.
 inline constexpr int kErlaubteFehler = 1;  ///< Wrong cells that a level forgives.
 inline constexpr int kModi = 3;            ///< Modes, numbered from 1.
 inline constexpr std::int16_t kModusNormal = 2;
+inline constexpr std::int16_t kModusExperte = 3;
+inline constexpr int kBeste = 5;  ///< Entries of the best list, numbered from 0, best first.
 
 /// The tile that a cell shows. It is the only record of what has happened to the cell.
 enum class Kachel { Verdeckt, Markiert, Fehler, Sarant };
@@ -26,7 +28,18 @@ struct Zelle {
   bool Gezogen = false;  ///< Has come up in the present draw of start cells; else without meaning.
 };
 
-/// The record of the game. A fresh `Spiel` is the state at the start of the process.
+/// The best list in memory: names and points as decimal text, taken from the file as they stand
+/// there. After a failed load they hold the lines read before the failure, so they may be shorter
+/// than five.
+struct Bestenliste {
+  std::vector<std::string> lstName;    ///< UTF-8.
+  std::vector<std::string> lstPunkte;  ///< UTF-8: a damaged file may hold anything.
+  std::int16_t BestenPlatz = -1;       ///< Entry that the player would take; -1: none.
+  bool BestenEintrag = false;          ///< The player has accepted an entry that is not named yet.
+};
+
+/// The record of the game. A fresh `Spiel` is the state at the start of the process: `spiel = {}`
+/// forgets everything that was played, read or chosen.
 struct Spiel {
   std::int16_t Level = 0;            ///< Running level, 1 to 40; 0 before the first.
   std::int32_t Punkte = 0;           ///< Total points. A game runs exactly while this is not 0.
@@ -43,10 +56,11 @@ struct Spiel {
   std::vector<std::string> lstWiederHolen;  ///< The same cells as decimal text, from 0.
 
   std::array<std::string, kModi> ModusNamen{"Einfach", "Normal", "Experte"};
-  std::int16_t Antwort = 0;           ///< Answer to the last question, see `Antwort`.
-  bool SoundAn = true;                ///< The player's switch for sound effects; not stored.
-  bool DatenordnerAktiv = false;      ///< False: data lie in the program's own folder.
-  std::string Datenordner;            ///< Folder of the data, UTF-8, without a closing separator.
+  std::int16_t Antwort = 0;       ///< Answer to the last question, see `Antwort`.
+  bool SoundAn = true;            ///< The player's switch for sound effects; not stored.
+  bool DatenordnerAktiv = false;  ///< False: data lie in the program's own folder.
+  std::string Datenordner;        ///< Folder of the data, UTF-8, without a closing separator.
+  Bestenliste Beste;
   std::int32_t Bestenschwelle = 0;    ///< Points of the lowest entry of the best list.
   std::int16_t WeiterBlinkphase = 0;  ///< Phase 0 or 1 of the arrow `imgWeiter`.
   std::int16_t StartBlinkphase = 0;   ///< Phase 0 or 1 of the arrow `imgZeigeStart`.
@@ -59,6 +73,9 @@ inline Spiel spiel;
 inline constexpr std::int16_t kJa = 1;
 inline constexpr std::int16_t kNein = 2;
 inline constexpr std::int16_t kAbgebrochen = 3;
+
+/// `Punkte` + `Levelpunkte`; a sum beyond 32 bits stays at the end of the range.
+std::int32_t SummePunkte();
 
 /// The name of a mode, which must be 1 to 3.
 inline const std::string &ModusName(int modus) {

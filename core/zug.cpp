@@ -1,10 +1,9 @@
 #include "core/zug.h"
 
-#include <algorithm>
 #include <array>
-#include <limits>
 
 #include "core/anzeige.h"
+#include "core/bestand.h"
 
 namespace {
 
@@ -12,11 +11,6 @@ constexpr std::array<std::int32_t, kModi> kBonus{400, 450, 500};
 constexpr std::int32_t kAbzug = 100;
 constexpr int kBlinkenGewonnen = 300;  // milliseconds
 constexpr int kBlinkenVerloren = 400;  // milliseconds
-
-bool BrettLiegt() {
-  return std::any_of(spiel.Feld.begin(), spiel.Feld.end(),
-                     [](const Zelle &zelle) { return zelle.IstSarant; });
-}
 
 void LevelGewonnen(Ansicht &ansicht) {
   LevelwertungZeigen(ansicht);
@@ -80,19 +74,4 @@ void ZugAuswerten(Ansicht &ansicht) {
 void LevelwertungZeigen(Ansicht &ansicht) {
   spiel.Levelpunkte = kBonus.at(static_cast<std::size_t>(spiel.Spielmodus - 1));
   ZeigeLevelwertung(ansicht);
-}
-
-std::int16_t ZaehleRest(const Ansicht &ansicht) {
-  int rest = 0;
-  for (int zelle = 1; zelle <= kZellen; ++zelle) {
-    rest += spiel.Feld.at(static_cast<std::size_t>(zelle)).IstSarant ? 1 : 0;
-    rest -= ansicht.LiesKachel(zelle) == Kachel::Sarant ? 1 : 0;
-  }
-  return static_cast<std::int16_t>(rest);
-}
-
-std::int32_t SummePunkte() {
-  using Grenzen = std::numeric_limits<std::int32_t>;
-  const std::int64_t summe = std::int64_t{spiel.Punkte} + spiel.Levelpunkte;
-  return static_cast<std::int32_t>(std::clamp<std::int64_t>(summe, Grenzen::min(), Grenzen::max()));
 }

@@ -2,8 +2,6 @@
 /// A move: what a press on a cell does, and what the board is worth afterwards.
 #pragma once
 
-#include <cstdint>
-
 #include "core/ansicht.h"
 
 inline constexpr int kLinkeTaste = 1;
@@ -13,14 +11,9 @@ inline constexpr int kRechteTaste = 2;  ///< Any button but the left one acts li
 /// nothing in a level that is won or lost.
 void imgSar_MouseDown(Ansicht &ansicht, int Index, int Button);
 
-/// Counts the whole board from the tiles; the second wrong cell loses the level.
+/// Recounts the wrong cells from the tiles. The second one loses the level and ends the count;
+/// otherwise the panel is brought up to date.
 void ZugAuswerten(Ansicht &ansicht);
 
 /// Sets the bonus of a won level by the mode and shows it.
 void LevelwertungZeigen(Ansicht &ansicht);
-
-/// Gems of the board that are not opened yet.
-std::int16_t ZaehleRest(const Ansicht &ansicht);
-
-/// `Punkte` + `Levelpunkte`; a sum beyond 32 bits stays at the end of the range.
-std::int32_t SummePunkte();

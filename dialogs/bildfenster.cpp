@@ -1,11 +1,20 @@
 #include "dialogs/bildfenster.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 
-#include "dialogs/bild.h"
-#include "dialogs/bilder.h"
+#include "controls/bild.h"
+#include "controls/bilder.h"
+#include "controls/schirmwechsel.h"
+
+namespace {
+
+constexpr int kVersatz = 100;  // twips
+
+}  // namespace
 
 Bildfenster::Bildfenster(QWidget *eltern, Qt::WindowFlags art, const char *hintergrund,
                          const Twips &groesse)
@@ -13,10 +22,29 @@ Bildfenster::Bildfenster(QWidget *eltern, Qt::WindowFlags art, const char *hinte
   setFixedSize(Rechteck(groesse).size());
 }
 
+void Bildfenster::Platziere(const QWidget *hauptfenster, Lage lage) {
+  const QRect rahmen = hauptfenster ? hauptfenster->frameGeometry()
+                                    : QGuiApplication::primaryScreen()->availableGeometry();
+  const QPoint versatz(Pixel(kVersatz), Pixel(kVersatz));
+  switch (lage) {
+    case Lage::Mitte:
+      move(rahmen.x() + (rahmen.width() - width()) / 2,
+           rahmen.y() + (rahmen.height() - height()) / 2);
+      break;
+    case Lage::RechtsUnten:
+      move(rahmen.topLeft() + versatz);
+      break;
+    case Lage::LinksOben:
+      move(rahmen.topLeft() - versatz);
+      break;
+  }
+  BehalteGroesse(this);
+}
+
 void Bildfenster::paintEvent(QPaintEvent *ereignis) {
   Q_UNUSED(ereignis)
   QPainter maler(this);
-  ZeichneGenau(maler, {0, 0}, Bilddatei(hintergrund_));
+  ZeichneGenau(maler, {0, 0}, Katalogbild(hintergrund_, devicePixelRatioF()));
 }
 
 void Bildfenster::keyPressEvent(QKeyEvent *ereignis) {

@@ -1,14 +1,20 @@
 /// @file
-/// What all windows besides the main one share: a fixed size, a picture as background, and no
-/// meaning for Enter and Esc but one that the window gives itself.
+/// What all windows besides the main one share: a fixed size, a picture as background, their place
+/// over the main window, and no meaning for Enter and Esc but one that the window gives itself.
 #pragma once
 
 #include <QDialog>
 
-#include "dialogs/masse.h"
+#include "controls/masse.h"
+#include "core/meldungen.h"
 
 class Bildfenster : public QDialog {
   Q_OBJECT
+
+ public:
+  /// Moves the window to the place that belongs to it over the main window.
+  /// @param hauptfenster   null while there is none yet: the screen takes its place.
+  void Platziere(const QWidget *hauptfenster, Lage lage);
 
  protected:
   /// @param hintergrund   a picture of the catalogue, drawn from the top left corner and cut off.
@@ -22,6 +28,6 @@ class Bildfenster : public QDialog {
 };
 
 /// A fixed single border with a title and a closing box, but no boxes to minimise or maximise.
-inline constexpr Qt::WindowFlags kFesterRahmen = Qt::Dialog | Qt::CustomizeWindowHint |
-                                                 Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                                                 Qt::WindowCloseButtonHint;
+inline constexpr Qt::WindowFlags kFesterRahmen =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+    Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;

@@ -1,16 +1,15 @@
 #include "dialogs/frmBeste.h"
 
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
 #include <QShortcut>
 #include <QShowEvent>
 #include <algorithm>
 
+#include "controls/beschriftung.h"
+#include "controls/bild.h"
+#include "controls/zifferreihe.h"
 #include "core/ansicht.h"
-#include "dialogs/bild.h"
-#include "dialogs/zifferreihe.h"
 #include "persistence/modBeste.h"
 #include "platform/modShellExecute.h"
 #include "platform/pfade.h"
@@ -22,56 +21,50 @@ constexpr Twips kErsterName{1300, 750, 2205, 405};
 constexpr Twips kErstePunkte{4830 - 210 * (kPunktstellen - 1), 720, 210, 420};
 constexpr int kZeilenabstand = 90;  // twips between the rows
 
-const Textzeile kTexte[] = {
-    {"Label1", {1110, 180, 2355, 375}, 12, true, kBlau, "Name des Spielers"},
-    {"Label2", {3720, 180, 1245, 285}, 12, true, kBlau, "Punkte"},
+const Texteintrag kTexte[] = {
+    {"Label1", {1110, 180, 2355, 375}, 12, true, kBlau, "Name des Spielers", Qt::AlignLeft},
+    {"Label2", {3720, 180, 1245, 285}, 12, true, kBlau, "Punkte", Qt::AlignLeft},
 };
-constexpr Twips kLinien[] = {{1290, 600, 3750, 0}, {3600, 120, 0, 3210}};
+// The upright rule passes behind the digits.
+constexpr Twips kLinien[] = {{1290, 600, 3750, 0}, {3600, 120, 0, 555}, {3600, 3225, 0, 105}};
 
-const Bildzeile kClear{"lblClear",
-                       {900, 3630, 2205, 525},
-                       "knopfZuruecksetzen",
-                       "Einträge zurücksetzen",
-                       "Einträge zurücksetzen"};
-const Bildzeile kEnde{"cmdEnde", {990, 4260, 2145, 495}, "knopfOk", "Fenster schließen", "OK"};
+const Bildeintrag kClear{"lblClear",
+                         {900, 3630, 2205, 525},
+                         "knopfZuruecksetzen",
+                         "Einträge zurücksetzen",
+                         "Einträge zurücksetzen"};
+const Bildeintrag kEnde{"cmdEnde", {990, 4260, 2145, 495}, "knopfOk", "Fenster schließen", "OK"};
 
-QPointer<frmBeste> dasFenster;
-
-/// An entry of the list in memory, which a failed reading may have left short.
-QString Eintrag(const QStringList &liste, std::size_t zeile) {
-  return liste.value(static_cast<qsizetype>(zeile));
+/// A text of the list in memory, which a failed reading may have left short.
+std::string Text(const std::vector<std::string> &liste, std::size_t platz) {
+  return platz < liste.size() ? liste[platz] : std::string();
 }
 
 }  // namespace
-
-frmBeste &frmBeste::Fenster(QWidget *hauptfenster, Ansicht &ansicht) {
-  if (!dasFenster)
-    dasFenster = new frmBeste(hauptfenster, ansicht);
-  return *dasFenster;
-}
 
 frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
     : Bildfenster(hauptfenster, kFesterRahmen, "beste", {0, 0, 5130, 4845}),
       hauptfenster_(hauptfenster),
       ansicht_(ansicht) {
   setWindowTitle("Beste Spieler ");
-  for (const Textzeile &zeile : kTexte)
-    NeueBeschriftung(this, zeile);
+  for (const Texteintrag &eintrag : kTexte)
+    new Beschriftung(this, eintrag);
   for (const Twips &linie : kLinien)
     NeueLinie(this, linie, 1, kBlau);
-  for (std::size_t r = 0; r < kZeilen; ++r) {
-    const int zeile = static_cast<int>(r);
+  for (int platz = 0; platz < kBeste; ++platz) {
+    const QString nummer = QString::number(platz + 1);
     Twips lage = kErsterName;
-    lage.top += zeile * (kErsterName.height + kZeilenabstand);
-    txtSpieler_.at(r) = new QLineEdit(this);
-    txtSpieler_.at(r)->setGeometry(Rechteck(lage));
-    txtSpieler_.at(r)->setFont(Schrift(12, true));
-    txtSpieler_.at(r)->setAccessibleName("Name " + QString::number(zeile + 1));
+    lage.top += platz * (kErsterName.height + kZeilenabstand);
+    auto *name = new QLineEdit(this);
+    name->setGeometry(Rechteck(lage));
+    name->setFont(Schrift(12, true));
+    name->setAccessibleName("Name " + nummer);
+    txtSpieler_.at(static_cast<std::size_t>(platz)) = name;
 
     lage = kErstePunkte;
-    lage.top += zeile * (kErstePunkte.height + kZeilenabstand);
-    imgDiggi_.at(r) =
-        new Zifferreihe(this, lage, kPunktstellen, "Punkte " + QString::number(zeile + 1));
+    lage.top += platz * (kErstePunkte.height + kZeilenabstand);
+    imgDiggi_.at(static_cast<std::size_t>(platz)) =
+        new Zifferreihe(this, lage, kPunktstellen, "Punkte " + nummer);
   }
   lblClear_ = new Bild(this, kClear);
   lblClear_->SetzeKlick([this] { cmdClear_Click(); });
@@ -81,8 +74,8 @@ frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
 }
 
 void frmBeste::ZeigeZumLesen() {
-  BestenEintrag = false;
-  Platziere(this, hauptfenster_, Lage::LinksOben);
+  spiel.Beste.BestenEintrag = false;
+  Platziere(hauptfenster_, Lage::LinksOben);
   setModal(false);
   show();
   raise();
@@ -91,7 +84,7 @@ void frmBeste::ZeigeZumLesen() {
 
 void frmBeste::ZeigeZumEintragen() {
   hide();
-  Platziere(this, hauptfenster_, Lage::LinksOben);
+  Platziere(hauptfenster_, Lage::LinksOben);
   exec();
 }
 
@@ -103,14 +96,14 @@ void frmBeste::showEvent(QShowEvent *ereignis) {
 bool frmBeste::event(QEvent *ereignis) {
   // While a name is typed no other window of the program can come to the front, so that coming back
   // from another program must not write over the name.
-  if (ereignis->type() == QEvent::WindowActivate && !BestenEintrag)
+  if (ereignis->type() == QEvent::WindowActivate && !spiel.Beste.BestenEintrag)
     Form_Activate();
   return Bildfenster::event(ereignis);
 }
 
 void frmBeste::closeEvent(QCloseEvent *ereignis) {
   // The closing box unloads the window: an entry that was not confirmed is lost with it.
-  dasFenster.clear();
+  emit Entladen();
   deleteLater();
   Bildfenster::closeEvent(ereignis);
 }
@@ -123,14 +116,16 @@ void frmBeste::keyPressEvent(QKeyEvent *ereignis) {
 }
 
 void frmBeste::Form_Activate() {
-  const auto niemand = [](const QString &name) { return name == kNiemand; };
-  lblClear_->setVisible(!BestenEintrag && !std::all_of(lstName.begin(), lstName.end(), niemand));
-  for (std::size_t r = 0; r < kZeilen; ++r)
-    txtSpieler_.at(r)->setText(Eintrag(lstName, r));
+  const Bestenliste &beste = spiel.Beste;
+  const auto niemand = [](const std::string &name) { return name == kNiemand; };
+  lblClear_->setVisible(!beste.BestenEintrag &&
+                        !std::all_of(beste.lstName.begin(), beste.lstName.end(), niemand));
+  for (std::size_t platz = 0; platz < kBeste; ++platz)
+    txtSpieler_.at(platz)->setText(QString::fromStdString(Text(beste.lstName, platz)));
   EingabeSperren();
-  if (BestenEintrag) {
+  if (beste.BestenEintrag) {
     cmdClear_->setEnabled(false);
-    QLineEdit *eingabe = txtSpieler_.at(static_cast<std::size_t>(BestenPlatz));
+    QLineEdit *eingabe = txtSpieler_.at(static_cast<std::size_t>(beste.BestenPlatz));
     eingabe->setReadOnly(false);
     eingabe->setFocusPolicy(Qt::StrongFocus);
     eingabe->selectAll();
@@ -140,9 +135,9 @@ void frmBeste::Form_Activate() {
 }
 
 void frmBeste::PunkteZeigen() {
-  for (std::size_t r = 0; r < kZeilen; ++r) {
-    const QString text = Eintrag(lstPunkte, r);
-    imgDiggi_.at(r)->ZeigeText(PunkteWert(text) == 0 ? QString() : text);
+  for (std::size_t platz = 0; platz < kBeste; ++platz) {
+    const std::string punkte = Text(spiel.Beste.lstPunkte, platz);
+    imgDiggi_.at(platz)->ZeigeText(PunkteWert(punkte) == 0 ? "" : QString::fromStdString(punkte));
   }
 }
 
@@ -154,22 +149,26 @@ void frmBeste::EingabeSperren() {
 }
 
 void frmBeste::cmdEnde_Click() {
-  if (BestenEintrag) {
-    const auto platz = static_cast<std::size_t>(BestenPlatz);
-    const QString name = txtSpieler_.at(platz)->text();
-    lstName[BestenPlatz] = name.isEmpty() ? kNeuerSpieler : name;
+  Bestenliste &beste = spiel.Beste;
+  beste.lstName.resize(kBeste);  // What was shown is the list: entries that were missing are empty.
+  beste.lstPunkte.resize(kBeste);
+  if (beste.BestenEintrag) {
+    const auto platz = static_cast<std::size_t>(beste.BestenPlatz);
+    const std::string name = txtSpieler_.at(platz)->text().toStdString();
+    beste.lstName.at(platz) = name.empty() ? kNeuerSpieler : name;
     BestenlisteSpeichern(ansicht_);
   }
   hide();
 }
 
 void frmBeste::cmdClear_Click() {
-  BestenEintrag = false;
+  spiel.Beste.BestenEintrag = false;
   const bool nurNiemand =
       std::all_of(txtSpieler_.begin(), txtSpieler_.end(),
-                  [](const QLineEdit *name) { return name->text() == kNiemand; });
+                  [](const QLineEdit *name) { return name->text().toStdString() == kNiemand; });
   if (!nurNiemand && ansicht_.Frage(FrageEintraegeLoeschen())) {
-    BestenlisteAnlegen();
+    if (!BestenlisteAnlegen())
+      ansicht_.Melde(MeldungBesteNichtGespeichert());
     BestenlisteLaden(ansicht_);
   }
   hide();

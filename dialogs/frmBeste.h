@@ -4,8 +4,8 @@
 
 #include <array>
 
+#include "core/spiel.h"
 #include "dialogs/bildfenster.h"
-#include "persistence/modBeste.h"
 
 class Ansicht;
 class Bild;
@@ -17,15 +17,19 @@ class frmBeste : public Bildfenster {
   Q_OBJECT
 
  public:
-  /// The one window, made at its first use and again after its closing box has unloaded it. Making
-  /// it reads the best list from its file.
-  static frmBeste &Fenster(QWidget *hauptfenster, Ansicht &ansicht);
+  /// Making the window reads the best list from its file. The closing box unloads it: it deletes
+  /// itself.
+  frmBeste(QWidget *hauptfenster, Ansicht &ansicht);
 
   /// Shows the list beside the running game and returns at once.
   void ZeigeZumLesen();
   /// Lets the player name the new entry; returns when the window has closed. A window that is open
   /// for reading gives way.
   void ZeigeZumEintragen();
+
+ signals:
+  /// The closing box has unloaded the window, which must not be used again.
+  void Entladen();
 
  protected:
   void showEvent(QShowEvent *ereignis) override;
@@ -34,10 +38,6 @@ class frmBeste : public Bildfenster {
   bool event(QEvent *ereignis) override;
 
  private:
-  static constexpr int kZeilen = kBeste;
-
-  frmBeste(QWidget *hauptfenster, Ansicht &ansicht);
-
   void Form_Activate();
   void PunkteZeigen();
   void EingabeSperren();
@@ -46,8 +46,8 @@ class frmBeste : public Bildfenster {
 
   QWidget *hauptfenster_;
   Ansicht &ansicht_;
-  std::array<QLineEdit *, kZeilen> txtSpieler_{};
-  std::array<Zifferreihe *, kZeilen> imgDiggi_{};
+  std::array<QLineEdit *, kBeste> txtSpieler_{};
+  std::array<Zifferreihe *, kBeste> imgDiggi_{};
   Bild *lblClear_;
   QShortcut *cmdClear_;
 };

@@ -5,10 +5,8 @@
 #include <QPainter>
 #include <QScreen>
 
-#include "dialogs/bild.h"
-#include "dialogs/bilder.h"
-#include "dialogs/ersterblick.h"
-#include "platform/taskleiste.h"
+#include "controls/bilder.h"
+#include "platform/hintergrundfenster.h"
 
 frmHintergrund::frmHintergrund(QWidget *hauptfenster)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), hauptfenster_(hauptfenster) {
@@ -16,29 +14,24 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster)
   setGeometry(schirm->geometry());
   setFixedSize(size());
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setUpdatesEnabled(false);
-  // Filling a whole screen takes a while; the first look at the main window shall not wait for it.
-  NachErstemBlick(hauptfenster, [this] { SpanneBild(); });
   winId();  // The window must exist before its entry in the task bar can be refused.
   OhneTaskleiste(windowHandle());
 }
 
-void frmHintergrund::SpanneBild() {
-  const QPixmap &stein = Bilddatei("schreibtisch");
-  Image1 = stein.scaled((QSizeF(size()) * stein.devicePixelRatio()).toSize(), Qt::IgnoreAspectRatio,
-                        Qt::SmoothTransformation);
-  setUpdatesEnabled(true);
-  repaint();  // Now, since the question for a sound device may take its time.
-}
-
 void frmHintergrund::paintEvent(QPaintEvent *ereignis) {
   Q_UNUSED(ereignis)
+  if (Image1.isNull())
+    Image1 = Streckbild("schreibtisch", size() * devicePixelRatioF());
   QPainter maler(this);
-  ZeichneGenau(maler, {0, 0}, Image1);
+  maler.setRenderHint(QPainter::SmoothPixmapTransform);
+  maler.drawPixmap(rect(), Image1);
 }
 
 bool frmHintergrund::event(QEvent *ereignis) {
-  if (ereignis->type() == QEvent::WindowActivate || ereignis->type() == QEvent::MouseButtonPress) {
+  const bool klick = ereignis->type() == QEvent::MouseButtonPress;
+  if (klick)  // Not on mere activation, which would undo the minimising of the game at once.
+    hauptfenster_->setWindowState(hauptfenster_->windowState() & ~Qt::WindowMinimized);
+  if (klick || ereignis->type() == QEvent::WindowActivate) {
     hauptfenster_->raise();
     hauptfenster_->activateWindow();
   }

@@ -17,8 +17,6 @@ class frmHintergrund : public QWidget {
   bool event(QEvent *ereignis) override;
 
  private:
-  void SpanneBild();
-
   QWidget *hauptfenster_;
-  QPixmap Image1;  ///< The stone, stretched once to the size of the screen.
+  QPixmap Image1;  ///< The stone, which is stretched to the size of the screen.
 };

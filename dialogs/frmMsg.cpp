@@ -7,37 +7,51 @@
 #include <utility>
 #include <vector>
 
+#include "controls/beschriftung.h"
+#include "controls/bild.h"
 #include "core/spiel.h"
-#include "dialogs/bild.h"
 #include "dialogs/hilfe.h"
+#include "platform/tastenplatz.h"
 
 namespace {
 
 /// A window without answers stores this, which means that the record is left alone.
 constexpr std::int16_t kOhneAntwort = 0;
 
+constexpr Qt::Alignment kMitteOben = Qt::AlignHCenter | Qt::AlignTop;
+
+// The places of the letters on the keyboard, see Tastenplatz().
+constexpr unsigned kPlatzJ = 0x24;
+constexpr unsigned kPlatzN = 0x31;
+
+/// A letter of another alphabet: Qt tells it by its Unicode value.
+bool IstFremderBuchstabe(int taste) {
+  constexpr int kEndeLatein = 0x24f;
+  return taste > kEndeLatein && taste <= QChar::LastValidCodePoint;
+}
+
 }  // namespace
 
 /// All in which the two windows differ.
 struct Meldelayout {
   struct Knopf {
-    Bildzeile zeile;
+    Bildeintrag eintrag;
     std::int16_t antwort;
   };
   struct Taste {
-    int taste;
+    Qt::Key taste;
+    unsigned platz;  ///< On a keyboard whose layout has no Latin letters; 0: none.
     std::int16_t antwort;
   };
 
   const char *hintergrund;
   Twips groesse;
-  Textzeile lblName;
+  Texteintrag lblName;
   Twips Picture1;
-  Textzeile lblMeldung;
-  Textzeile lblTitel;
+  Texteintrag lblMeldung;
+  Texteintrag lblTitel;
   std::vector<Knopf> knoepfe;
   std::vector<Taste> tasten;
-  std::int16_t beimSchliessen;
 };
 
 namespace {
@@ -49,13 +63,12 @@ const Meldelayout &LayoutJa() {
       {"lblName", {930, 180, 3915, 315}, 12, true, kHellgrau},
       {60, 750, 5745, 2025},
       {"lblMeldung", {120, 30, 5475, 825}, 9.75, true, kBlau},
-      {"lblTitel", {60, 900, 5505, 1035}, 9.75, true, kMagenta},
+      {"lblTitel", {60, 900, 5505, 1035}, 9.75, true, kMagenta, "", kMitteOben, true},
       {{{"Image1", {5460, 60, 315, 315}, "schliessen", "schließen", "Schließen"}, kAbgebrochen},
        {{"lblNein", {480, 2910, 2205, 375}, "", "Fenster schließen ohne Bestätigung", "Nein"},
         kNein},
        {{"lblJa", {3330, 2880, 2175, 435}, "", "Bestätigen", "Ja"}, kJa}},
-      {{Qt::Key_Escape, kAbgebrochen}, {Qt::Key_J, kJa}, {Qt::Key_N, kNein}},
-      kAbgebrochen};
+      {{Qt::Key_Escape, 0, kAbgebrochen}, {Qt::Key_J, kPlatzJ, kJa}, {Qt::Key_N, kPlatzN, kNein}}};
   return layout;
 }
 
@@ -66,11 +79,10 @@ const Meldelayout &LayoutOk() {
       {"lblName", {960, 180, 4155, 435}, 14.25, false, kHellgrau},
       {60, 780, 5655, 2025},
       {"lblMeldung", {30, 60, 5445, 825}, 9.75, true, kBlau},
-      {"lblTitel", {30, 930, 5505, 1005}, 9.75, true, kPurpur},
+      {"lblTitel", {30, 930, 5505, 1005}, 9.75, true, kPurpur, "", kMitteOben, true},
       {{{"Image2", {5370, 90, 315, 315}, "schliessen", "schließen", "Schließen"}, kOhneAntwort},
        {{"lblOk", {1800, 2910, 2175, 405}, "", "Fenster schließen", "OK"}, kOhneAntwort}},
-      {{Qt::Key_Escape, kOhneAntwort}},
-      kOhneAntwort};
+      {{Qt::Key_Escape, 0, kOhneAntwort}}};
   return layout;
 }
 
@@ -81,7 +93,7 @@ Meldefenster::Meldefenster(const Meldelayout &layout, const Meldung &meldung)
                   layout.hintergrund, layout.groesse),
       layout_(layout),
       lage_(meldung.lage) {
-  SetzeText(NeueBeschriftung(this, layout.lblName), Versionstext());
+  (new Beschriftung(this, layout.lblName))->ZeigeText(Versionstext());
   setWindowTitle(QString::fromStdString(Versionstext()));
 
   auto *panel = new QWidget(this);
@@ -89,11 +101,11 @@ Meldefenster::Meldefenster(const Meldelayout &layout, const Meldung &meldung)
   panel->setPalette(QPalette(Qt::white));
   panel->setAutoFillBackground(true);
   panel->setAttribute(Qt::WA_NoMousePropagation);  // The panel is no grip for dragging.
-  SetzeText(NeueBeschriftung(panel, layout.lblMeldung), meldung.lblMeldung);
-  SetzeText(NeueBeschriftung(panel, layout.lblTitel), meldung.lblTitel);
+  (new Beschriftung(panel, layout.lblMeldung))->ZeigeText(meldung.lblMeldung);
+  (new Beschriftung(panel, layout.lblTitel))->ZeigeText(meldung.lblTitel);
 
   for (const Meldelayout::Knopf &knopf : layout.knoepfe) {
-    auto *bild = new Bild(this, knopf.zeile);
+    auto *bild = new Bild(this, knopf.eintrag);
     bild->SetzeKlick([this, antwort = knopf.antwort] { Antworte(antwort); });
   }
 }
@@ -101,7 +113,7 @@ Meldefenster::Meldefenster(const Meldelayout &layout, const Meldung &meldung)
 void Meldefenster::ZeigeUeber(QWidget *hauptfenster) {
   if (!parentWidget())
     setParent(hauptfenster, windowFlags());
-  Platziere(this, hauptfenster, lage_);
+  Platziere(hauptfenster, lage_);
   exec();
 }
 
@@ -124,17 +136,15 @@ void Meldefenster::mouseMoveEvent(QMouseEvent *ereignis) {
 void Meldefenster::keyPressEvent(QKeyEvent *ereignis) {
   if (ereignis->key() == Qt::Key_F1)
     OeffneHilfe("Meldefenster.pdf");
+  const unsigned platz = IstFremderBuchstabe(ereignis->key()) ? Tastenplatz(*ereignis) : 0;
   for (const Meldelayout::Taste &taste : layout_.tasten) {
-    if (taste.taste == ereignis->key())
+    if (taste.taste == ereignis->key() || (platz != 0 && taste.platz == platz))
       Antworte(taste.antwort);
   }
 }
 
-void Meldefenster::closeEvent(QCloseEvent *ereignis) {
-  Q_UNUSED(ereignis)
-  Antworte(layout_.beimSchliessen);
+frmMsgJa::frmMsgJa(const Meldung &meldung) : Meldefenster(LayoutJa(), meldung) {
+  spiel.Antwort = kAbgebrochen;
 }
-
-frmMsgJa::frmMsgJa(const Meldung &meldung) : Meldefenster(LayoutJa(), meldung) {}
 
 frmMsgOk::frmMsgOk(const Meldung &meldung) : Meldefenster(LayoutOk(), meldung) {}

@@ -25,7 +25,6 @@ class Meldefenster : public Bildfenster {
   void mousePressEvent(QMouseEvent *ereignis) override;
   void mouseMoveEvent(QMouseEvent *ereignis) override;
   void keyPressEvent(QKeyEvent *ereignis) override;
-  void closeEvent(QCloseEvent *ereignis) override;
 
  private:
   void Antworte(std::int16_t antwort);
@@ -35,8 +34,8 @@ class Meldefenster : public Bildfenster {
   bool gegriffen_ = false;
 };
 
-/// A question; `spiel.Antwort` holds the answer when the window has closed. Esc, the close picture
-/// and a close by the platform count as cancelled.
+/// A question; `spiel.Antwort` holds the answer when the window has closed. Until the player has
+/// answered it is "cancelled", however the window goes.
 class frmMsgJa : public Meldefenster {
   Q_OBJECT
 

@@ -2,64 +2,65 @@
 
 #include <QLabel>
 
+#include "controls/beschriftung.h"
+#include "controls/bild.h"
 #include "core/ansicht.h"
 #include "core/befehle.h"
-#include "dialogs/bild.h"
 #include "persistence/iniLumbra.h"
-#include "platform/mod_MySound.h"
+#include "platform/tongeraet.h"
 
 namespace {
 
 constexpr int kLevelJeStufe = 5;
 
-const Textzeile kTexte[] = {
-    {"Label1", {3030, 150, 2175, 585}, 15.75, true, kBlau, "Spielstart"},
+const Texteintrag kTexte[] = {
+    {"Label1", {3030, 150, 2175, 585}, 15.75, true, kBlau, "Spielstart", Qt::AlignLeft},
     {"Label2", {1620, 3120, 4335, 435}, 15.75, true, kDunkelgruen, "Spielmodus"},
 };
 
 const Wahlart kStufen{"imgLevel", "level", 0, "", ""};
-const std::vector<Wahlgruppe::Zeile> kStufenzeilen{
+const std::vector<Wahlgruppe::Wahleintrag> kStufeneintraege{
     {{1650, 840, 2175, 480}, "Level 1"},   {{1650, 1440, 2175, 480}, "Level 6"},
     {{1650, 2040, 2175, 480}, "Level 11"}, {{4150, 840, 2175, 480}, "Level 16"},
     {{4150, 1440, 2175, 480}, "Level 21"}, {{4150, 2040, 2175, 480}, "Level 26"}};
 
-const std::vector<Wahlgruppe::Zeile> kModuszeilen{{{1650, 3640, 2175, 480}, "Einfach"},
-                                                  {{4150, 3640, 2175, 480}, "Normal"},
-                                                  {{2850, 4230, 2175, 480}, "Experte"}};
+const std::vector<Wahlgruppe::Wahleintrag> kModuseintraege{{{1650, 3640, 2175, 480}, "Einfach"},
+                                                           {{4150, 3640, 2175, 480}, "Normal"},
+                                                           {{2850, 4230, 2175, 480}, "Experte"}};
 
 constexpr Twips kTrennlinie{1680, 4920, 5100, 0};
 
 constexpr Twips kSoundlage{2250, 5100, 2865, 630};
-const Bildzeile kSound[] = {
+const Bildeintrag kSound[] = {
     {"imgSound0", kSoundlage, "sound0", "Soundeffekt einschalten", "Soundeffekt",
      QAccessible::CheckBox},
     {"imgSound1", kSoundlage, "sound1", "Soundeffekt ausschalten", "Soundeffekt",
      QAccessible::CheckBox},
 };
-const Bildzeile kEnde{"cmdEnde",
-                      {1470, 5940, 2865, 630},
-                      "knopfSchliessen",
-                      "Fenster schließen ohne die Einstellungen zu übernehmen",
-                      "Schließen"};
-const Bildzeile kNehmen{"cmdNehmen",
-                        {4380, 5940, 2865, 630},
-                        "knopfUebernehmen",
-                        "Einstellungen übernehmen",
-                        "Übernehmen"};
+const Bildeintrag kEnde{"cmdEnde",
+                        {1470, 5940, 2865, 630},
+                        "knopfSchliessen",
+                        "Fenster schließen ohne die Einstellungen zu übernehmen",
+                        "Schließen"};
+const Bildeintrag kNehmen{"cmdNehmen",
+                          {4380, 5940, 2865, 630},
+                          "knopfUebernehmen",
+                          "Einstellungen übernehmen",
+                          "Übernehmen"};
 
 }  // namespace
 
 frmOptionen::frmOptionen(QWidget *hauptfenster, Ansicht &ansicht)
     : Bildfenster(hauptfenster, kFesterRahmen, "optionen", {0, 0, 7260, 6720}),
       ansicht_(ansicht),
-      imgLevel_(this, kStufen, kStufenzeilen, [this](int stufe) { imgLevel_Click(stufe); }),
-      imgModus_(this, kModuswahl, kModuszeilen, [this](int modus) { imgModus_Click(modus); }),
+      imgLevel_(this, kStufen, kStufeneintraege, [this](int stufe) { imgLevel_Click(stufe); }),
+      imgModus_(this, kModuswahl, kModuseintraege, [this](int modus) { imgModus_Click(modus); }),
       ModusWahl(spiel.Spielmodus),
       SoundWahl(spiel.SoundAn),
       ModusVorher(spiel.Spielmodus) {
   setWindowTitle("Form1");
-  for (const Textzeile &zeile : kTexte)
-    NeueBeschriftung(this, zeile);
+  for (const Texteintrag &eintrag : kTexte)
+    new Beschriftung(this, eintrag);
   NeueLinie(this, kTrennlinie, 2, kBlau);
   for (const bool an : {false, true}) {
     auto *bild = new Bild(this, kSound[an ? 1 : 0]);
@@ -70,7 +71,8 @@ frmOptionen::frmOptionen(QWidget *hauptfenster, Ansicht &ansicht)
   (new Bild(this, kEnde))->SetzeKlick([this] { close(); });
   (new Bild(this, kNehmen))->SetzeKlick([this] { cmdNehmen_Click(); });
 
-  ZeigeSound(spiel.SoundAn && SoundGeraetDa());
+  ZeigeSound();
+  connect(&DerTonmelder(), &Tonmelder::Gewechselt, this, &frmOptionen::ZeigeSound);
   imgModus_.Waehle(ModusWahl);
   imgLevel_.Waehle(LevelWahl);
 }
@@ -90,8 +92,8 @@ void frmOptionen::imgSound_Click(bool an) {
     ansicht_.Melde(MeldungKeineSoundkarte());
     return;
   }
-  ZeigeSound(an);
   SoundWahl = an;
+  ZeigeSound();
 }
 
 void frmOptionen::cmdNehmen_Click() {
@@ -105,7 +107,8 @@ void frmOptionen::cmdNehmen_Click() {
   close();
 }
 
-void frmOptionen::ZeigeSound(bool an) {
+void frmOptionen::ZeigeSound() {
+  const bool an = SoundWahl && SoundGeraetDa();
   imgSound_[0]->setVisible(!an);
   imgSound_[1]->setVisible(an);
 }

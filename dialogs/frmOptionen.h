@@ -4,8 +4,8 @@
 
 #include <array>
 
+#include "controls/wahlgruppe.h"
 #include "dialogs/bildfenster.h"
-#include "dialogs/wahlgruppe.h"
 
 class Ansicht;
 class Bild;
@@ -22,7 +22,8 @@ class frmOptionen : public Bildfenster {
   void imgModus_Click(int modus);
   void imgSound_Click(bool an);
   void cmdNehmen_Click();
-  void ZeigeSound(bool an);
+  /// Lets the face of the sound show the choice, which is off while there is no device.
+  void ZeigeSound();
 
   Ansicht &ansicht_;
   Wahlgruppe imgLevel_;

@@ -3,11 +3,17 @@
 #include <QAccessibleWidget>
 #include <QTimer>
 
-#include "dialogs/bild.h"
+#include "controls/bild.h"
+#include "controls/zifferreihe.h"
 #include "dialogs/bildfenster.h"
-#include "dialogs/zifferreihe.h"
 
 namespace {
+
+/// A picture of which nothing is to be seen, as an arrow is between two games.
+bool IstLeer(const QWidget *element) {
+  const auto *bild = qobject_cast<const Bild *>(element);
+  return bild && bild->Rolle() == QAccessible::Graphic && bild->Bildname().isEmpty();
+}
 
 /// A control whose hidden children do not exist for assistive technology.
 class Zugang : public QAccessibleWidget {
@@ -29,7 +35,7 @@ class Zugang : public QAccessibleWidget {
     QList<QWidget *> kinder;
     for (QObject *objekt : widget()->children()) {
       auto *kind = qobject_cast<QWidget *>(objekt);
-      if (kind && !kind->isWindow() && !kind->isHidden())
+      if (kind && !kind->isWindow() && !kind->isHidden() && !IstLeer(kind))
         kinder.append(kind);
     }
     return kinder;

@@ -1,6 +1,6 @@
 #include "persistence/modBeste.h"
 
-#include <QList>
+#include <QStringList>
 
 #include "persistence/modCdVersion.h"
 #include "platform/textdatei.h"
@@ -11,25 +11,51 @@ constexpr int kLetzter = kBeste - 1;
 constexpr int kBesteVorgabe = 15000;  ///< Points of the best entry of the default list.
 constexpr int kVorgabeabstand = 500;  ///< Points between two entries of it.
 
-/// An entry of the list, whatever was read: missing names and points without a value are made good,
-/// so that a list that is saved can be loaded.
-struct Eintrag {
-  QString Name;
-  QString Punkte;
-};
+using Texte = std::vector<std::string>;
 
-Eintrag LiesEintrag(int platz) {
-  const QString punkte = lstPunkte.value(platz);
-  std::int32_t wert = 0;
-  const bool hatWert = LiesZahl(punkte, wert) == Dateifehler::Keiner;
-  return {lstName.value(platz, kNiemand), hatWert ? punkte : QString::number(0)};
+Texte AlsTexte(const QStringList &zeilen) {
+  Texte texte;
+  for (const QString &zeile : zeilen)
+    texte.push_back(zeile.toStdString());
+  return texte;
+}
+
+QStringList AlsZeilen(const Texte &texte) {
+  QStringList zeilen;
+  for (const std::string &text : texte)
+    zeilen.append(QString::fromStdString(text));
+  return zeilen;
+}
+
+Dateifehler LiesPunkte(const std::string &text, std::int32_t &wert) {
+  return LiesZahl(QString::fromStdString(text), wert);
+}
+
+/// Brings the list in memory to five entries, whatever was read: missing names and points without a
+/// value are made good, so that a list that is saved can be loaded.
+void ErgaenzeListe() {
+  Bestenliste &beste = spiel.Beste;
+  beste.lstName.resize(kBeste, kNiemand);
+  beste.lstPunkte.resize(kBeste);
+  for (std::string &punkte : beste.lstPunkte) {
+    std::int32_t wert = 0;
+    if (LiesPunkte(punkte, wert) != Dateifehler::Keiner)
+      punkte = std::to_string(wert);
+  }
+}
+
+/// The points of a place; a place that is missing counts as 0.
+std::int32_t PunkteAuf(int platz) {
+  const Texte &punkte = spiel.Beste.lstPunkte;
+  const auto stelle = static_cast<std::size_t>(platz);
+  return stelle < punkte.size() ? PunkteWert(punkte[stelle]) : 0;
 }
 
 }  // namespace
 
-std::int32_t PunkteWert(const QString &text) {
+std::int32_t PunkteWert(const std::string &text) {
   std::int32_t wert = 0;
-  LiesZahl(text, wert);
+  LiesPunkte(text, wert);
   return wert;
 }
 
@@ -37,63 +63,56 @@ QString BestenlistePfad() {
   return Datenpfad("sarant.txt");
 }
 
-void BestenlisteAnlegen() {
-  QStringList zeilen(kBeste, kNiemand);
+bool BestenlisteAnlegen() {
+  QStringList zeilen(kBeste, QString::fromStdString(kNiemand));
   for (int platz = 0; platz < kBeste; ++platz)
     zeilen.append(QString::number(kBesteVorgabe - platz * kVorgabeabstand));
-  SchreibeZeilen(BestenlistePfad(), zeilen);
+  return SchreibeZeilen(BestenlistePfad(), zeilen) == Dateifehler::Keiner;
 }
 
 void BestenlisteLaden(Ansicht &ansicht) {
   const Textzeilen datei = LiesZeilen(BestenlistePfad(), 2 * kBeste);
-  lstName = datei.Zeilen.mid(0, kBeste);
-  lstPunkte = datei.Zeilen.mid(kBeste);
+  spiel.Beste.lstName = AlsTexte(datei.Zeilen.mid(0, kBeste));
+  spiel.Beste.lstPunkte = AlsTexte(datei.Zeilen.mid(kBeste));
   const Dateifehler fehler = datei.Fehler == Dateifehler::Keiner
-                                 ? LiesZahl(lstPunkte[kLetzter], spiel.Bestenschwelle)
+                                 ? LiesPunkte(spiel.Beste.lstPunkte.back(), spiel.Bestenschwelle)
                                  : datei.Fehler;
   if (fehler != Dateifehler::Keiner)
     ansicht.Melde(MeldungBesteNichtGelesen(static_cast<int>(fehler)));
 }
 
 void BestenlisteSpeichern(Ansicht &ansicht) {
-  QStringList namen;
-  QStringList punkte;
-  for (int platz = 0; platz < kBeste; ++platz) {
-    namen.append(LiesEintrag(platz).Name);
-    punkte.append(LiesEintrag(platz).Punkte);
-  }
-  if (SchreibeZeilen(BestenlistePfad(), namen + punkte) == Dateifehler::Keiner)
-    spiel.Bestenschwelle = PunkteWert(punkte[kLetzter]);
+  ErgaenzeListe();
+  const Bestenliste &beste = spiel.Beste;
+  const QStringList zeilen = AlsZeilen(beste.lstName) + AlsZeilen(beste.lstPunkte);
+  if (SchreibeZeilen(BestenlistePfad(), zeilen) == Dateifehler::Keiner)
+    spiel.Bestenschwelle = PunkteWert(beste.lstPunkte.back());
   else
     ansicht.Melde(MeldungBesteNichtGespeichert());
 }
 
 void BestenlistePruefen(Ansicht &ansicht) {
-  BestenEintrag = false;
-  BestenPlatz = -1;
-  for (std::int16_t platz = 0; platz < kBeste && BestenPlatz < 0; ++platz)
-    if (spiel.Punkte > PunkteWert(lstPunkte.value(platz)))
-      BestenPlatz = platz;
-  if (BestenPlatz < 0) {
+  Bestenliste &beste = spiel.Beste;
+  beste.BestenEintrag = false;
+  beste.BestenPlatz = -1;
+  for (std::int16_t platz = 0; platz < kBeste && beste.BestenPlatz < 0; ++platz)
+    if (spiel.Punkte > PunkteAuf(platz))
+      beste.BestenPlatz = platz;
+  if (beste.BestenPlatz < 0) {
     ansicht.Melde(MeldungKeinBesteneintrag());
     return;
   }
-  BestenEintrag = ansicht.Frage(FrageBesteneintrag());
-  if (BestenEintrag)
+  beste.BestenEintrag = ansicht.Frage(FrageBesteneintrag());
+  if (beste.BestenEintrag)
     BestenlisteEintragen(ansicht);
 }
 
 void BestenlisteEintragen(Ansicht &ansicht) {
-  QStringList namen;
-  QStringList punkte;
-  for (int platz = 0; platz < kLetzter; ++platz) {
-    const Eintrag alt = LiesEintrag(platz);
-    namen.append(alt.Name);
-    punkte.append(alt.Punkte);
-  }
-  namen.insert(BestenPlatz, kNeuerSpieler);
-  punkte.insert(BestenPlatz, QString::number(spiel.Punkte));
-  lstName = namen;
-  lstPunkte = punkte;
+  ErgaenzeListe();
+  Bestenliste &beste = spiel.Beste;
+  beste.lstName.insert(beste.lstName.begin() + beste.BestenPlatz, kNeuerSpieler);
+  beste.lstPunkte.insert(beste.lstPunkte.begin() + beste.BestenPlatz, std::to_string(spiel.Punkte));
+  beste.lstName.resize(kBeste);
+  beste.lstPunkte.resize(kBeste);
   ansicht.ZeigeBesteneintrag();
 }

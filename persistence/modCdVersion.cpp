@@ -1,13 +1,16 @@
 #include "persistence/modCdVersion.h"
 
 #include "platform/modExistiertDatei.h"
-#include "platform/modOpenSave.h"
 #include "platform/pfade.h"
 
 QString Datenpfad(const QString &name) {
   const QString ordner =
       spiel.DatenordnerAktiv ? QString::fromStdString(spiel.Datenordner) : Programmordner();
   return MitBackslash(ordner) + name;
+}
+
+QString Dialogordner() {
+  return QString::fromStdString(spiel.Datenordner);
 }
 
 void LegeDatenordnerFest(Ansicht &ansicht, const QString &wurzel) {
@@ -20,7 +23,6 @@ void LegeDatenordnerFest(Ansicht &ansicht, const QString &wurzel) {
   spiel.Datenordner = ordner.toStdString();
   if (!ExistiertDatei(ordner))
     LegeDatenordnerAn(ansicht, ordner);
-  Dialogordner = ordner;
 }
 
 void LegeDatenordnerAn(Ansicht &ansicht, const QString &pfad) {

@@ -10,8 +10,10 @@
 /// program's own folder. An empty name gives the folder itself, with its closing separator.
 QString Datenpfad(const QString &name);
 
-/// Settles `Datenordner`, `DatenordnerAktiv` and the folder of the file dialogs, and creates the
-/// folder if it is missing.
+/// The folder in which the file dialogs open; empty if there is no folder of the game's own.
+QString Dialogordner();
+
+/// Settles `Datenordner` and `DatenordnerAktiv`, and creates the folder if it is missing.
 /// @param wurzel   the place of that folder; the player is told if it is empty.
 void LegeDatenordnerFest(Ansicht &ansicht, const QString &wurzel);
 

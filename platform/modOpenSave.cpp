@@ -8,28 +8,43 @@
 
 namespace {
 
-QString Dateidialog(QWidget *besitzer, const QString &titel, QFileDialog::AcceptMode modus) {
-  // Qt takes a missing folder for the name of a file to be chosen.
-  const QString ordner = QFileInfo(Dialogordner).isDir() ? Dialogordner : QString();
-  QFileDialog dialog(besitzer, titel, ordner, "Spieldateien (*.sar)");
+/// The folder, or the nearest one above it that has not gone. Qt would take a missing folder for
+/// the name of a file to be chosen.
+QString NaechsterVorhandener(const QString &ordner) {
+  QString vorhanden = ordner;
+  while (!vorhanden.isEmpty() && !QFileInfo(vorhanden).isDir() &&
+         vorhanden != QFileInfo(vorhanden).path())
+    vorhanden = QFileInfo(vorhanden).path();
+  return vorhanden;
+}
+
+QString Laufwerkswurzel() {
+  const QString ordner = Programmordner();
+  return ordner.left(ordner.indexOf(u'/') + 1);
+}
+
+QString Dateidialog(QWidget *besitzer, const QString &titel, const QString &ordner,
+                    QFileDialog::AcceptMode modus) {
+  QFileDialog dialog(besitzer, titel, NaechsterVorhandener(ordner), "Spieldateien (*.sar)");
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.setAcceptMode(modus);
   dialog.setFileMode(QFileDialog::AnyFile);
-  return ZeigeDateidialog(dialog) ? dialog.selectedFiles().value(0).trimmed() : QString();
+  if (!ZeigeDateidialog(dialog))
+    return {};
+  const QString name = dialog.selectedFiles().value(0).trimmed();
+  // Qt takes such a name for a resource of the program.
+  return name.startsWith(u':') ? MitBackslash(dialog.directory().path()) + name : name;
 }
 
 }  // namespace
 
-QString DateiOeffnenDialog(QWidget *besitzer) {
-  return Dateidialog(besitzer, "Spieldatei öffnen", QFileDialog::AcceptOpen);
+QString DateiOeffnenDialog(QWidget *besitzer, const QString &ordner) {
+  return Dateidialog(besitzer, "Spieldatei öffnen", ordner, QFileDialog::AcceptOpen);
 }
 
-QString DateiSpeichernDialog(QWidget *besitzer) {
-  if (Dialogordner.isEmpty()) {
-    const QString ordner = Programmordner();
-    Dialogordner = ordner.left(ordner.indexOf(u'/') + 1);
-  }
-  return Dateidialog(besitzer, "Spieldatei speichern unter", QFileDialog::AcceptSave);
+QString DateiSpeichernDialog(QWidget *besitzer, const QString &ordner) {
+  return Dateidialog(besitzer, "Spieldatei speichern unter",
+                     ordner.isEmpty() ? Laufwerkswurzel() : ordner, QFileDialog::AcceptSave);
 }
 
 QString Dateititel(const QString &pfad) {

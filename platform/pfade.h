@@ -12,11 +12,3 @@ QString MitBackslash(const QString &pfad);
 /// separator: `<prefix>/share/glanzgrube` if the executable stands in `<prefix>/bin` or
 /// `<prefix>/games` and that folder exists, else the folder of the executable.
 QString Programmordner();
-
-/// The folder in which the program may create a data folder of its own, without a closing
-/// separator. Empty when the system gives none.
-///
-/// Windows: the drive of the Windows folder, as in "C:". Other systems: the user's data directory,
-/// which exists when this returns; none if no home directory is known, or if it cannot hold that
-/// directory. Source of the latter: freedesktop.org, XDG base directories.
-QString Datenwurzel();

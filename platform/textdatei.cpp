@@ -2,10 +2,10 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <charconv>
 
 #include "platform/codepage.h"
+#include "platform/dateiersatz.h"
 #include "platform/modExistiertDatei.h"
 
 namespace {
@@ -27,16 +27,6 @@ Dateifehler Oeffnungsfehler(const QString &pfad) {
   if (!QFileInfo(QFileInfo(pfad).path()).isDir())
     return Dateifehler::PfadNichtGefunden;
   return ExistiertDatei(pfad) ? Dateifehler::ZugriffVerweigert : Dateifehler::NichtGefunden;
-}
-
-Dateifehler Schreibfehler(const QSaveFile &datei) {
-  if (datei.error() == QFileDevice::ResourceError)
-    return Dateifehler::DatentraegerVoll;
-  if (datei.error() == QFileDevice::WriteError && datei.isOpen())
-    return Dateifehler::Anderer;
-  const Dateifehler fehler = Oeffnungsfehler(datei.fileName());
-  // That a new file does not exist yet is not why it cannot be written.
-  return fehler == Dateifehler::NichtGefunden ? Dateifehler::ZugriffVerweigert : fehler;
 }
 
 template <typename Zahl>
@@ -95,16 +85,15 @@ Textzeilen LiesZeilen(const QString &pfad, int anzahl) {
 }
 
 Dateifehler SchreibeZeilen(const QString &pfad, const QStringList &zeilen) {
-  QSaveFile datei(pfad);
-  if (IstKeineDatei(pfad) || !datei.open(QIODevice::WriteOnly))
-    return Schreibfehler(datei);
+  if (IstKeineDatei(pfad))
+    return Dateifehler::ZugriffVerweigert;
+  QByteArray inhalt;
   for (const QString &zeile : zeilen) {
     for (const char32_t zeichen : zeile.toUcs4())
-      datei.write(InCodepage(IstZeilenende(zeichen) ? U'?' : zeichen));
-    datei.write("\r\n");
+      inhalt.append(InCodepage(IstZeilenende(zeichen) ? U'?' : zeichen));
+    inhalt.append("\r\n");
   }
-  // commit() would lose a failure of the last flush and replace the old file by a short one.
-  return datei.flush() && datei.commit() ? Dateifehler::Keiner : Schreibfehler(datei);
+  return ErsetzeDatei(pfad, inhalt);
 }
 
 Dateifehler LiesZahl(const QString &text, std::int16_t &wert) {

@@ -7,18 +7,7 @@
 #include <QStringList>
 #include <cstdint>
 
-/// Outcome of a file operation. The numbers stand behind "Fehlernummer: " in the messages.
-enum class Dateifehler : int {
-  Keiner = 0,
-  NichtGefunden = 1,      ///< No such file.
-  ZugriffVerweigert = 2,  ///< Not allowed, or something that is no file bears the name.
-  PfadNichtGefunden = 3,  ///< The folder does not exist.
-  DatentraegerVoll = 4,   ///< No space left.
-  Dateiende = 5,          ///< Fewer lines than expected.
-  KeineZahl = 6,          ///< A text that is no whole number.
-  Zahlenbereich = 7,      ///< A whole number that is too small or too large.
-  Anderer = 8,            ///< Anything else, for instance a fault of the disk or an endless line.
-};
+#include "platform/dateifehler.h"
 
 /// Longest line that is read, in bytes; longer than any text that the game can write.
 inline constexpr qsizetype kLaengsteZeile = 65536;
@@ -34,9 +23,8 @@ struct Textzeilen {
 /// @param anzahl   lines to be read; what follows them is not looked at. Fewer lines: `Dateiende`.
 Textzeilen LiesZeilen(const QString &pfad, int anzahl);
 
-/// Replaces a file by these lines, each ended by CR LF, as a whole or not at all: after any
-/// failure, even the end of the process, the old file is still there. Characters that the code page
-/// lacks and line ends within a text are written as "?".
+/// Replaces a file by these lines, each ended by CR LF, as a whole or not at all. Characters that
+/// the code page lacks and line ends within a text are written as "?".
 Dateifehler SchreibeZeilen(const QString &pfad, const QStringList &zeilen);
 
 /// Converts decimal digits with an optional leading "-" and blanks around them. On a failure,

@@ -1,49 +1,48 @@
 #include "shell/frmSpielfeld.h"
 
+#include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
-#include <QLabel>
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
+#include <functional>
 #include <optional>
 
+#include "controls/beschriftung.h"
+#include "controls/bild.h"
+#include "controls/bilder.h"
+#include "controls/schirmwechsel.h"
 #include "core/befehle.h"
 #include "core/level.h"
 #include "core/zug.h"
-#include "dialogs/bild.h"
-#include "dialogs/bilder.h"
 #include "dialogs/frmBeste.h"
 #include "dialogs/frmMsg.h"
 #include "dialogs/frmOptionen.h"
 #include "dialogs/hilfe.h"
-#include "dialogs/zifferreihe.h"
 #include "persistence/iniLumbra.h"
 #include "persistence/modBeste.h"
+#include "persistence/modCdVersion.h"
 #include "persistence/modDateiHandling.h"
 #include "platform/modOpenSave.h"
 #include "platform/mod_MySound.h"
+#include "platform/tongeraet.h"
+#include "shell/spielbrett.h"
 
 namespace {
 
 constexpr Twips kFenster{0, 0, 13170, 10935};
-const Bildzeile kFlaeche{"frmSpielfeld", kFenster, "spielfeld", "", "Spiel", QAccessible::Grouping};
-// The picture of the window shows the board as well.
-const Bildzeile kPicture1{"Picture1",  {3330, 210, 9645, 9705}, "", "",
-                          "Spielfeld", QAccessible::Grouping};
+const Bildeintrag kFlaeche{"frmSpielfeld",       kFenster, "spielfeld", "", "Spiel",
+                           QAccessible::Grouping};
 
-const Textzeile kLblModus{"lblModus", {4260, 9960, 6615, 855}, 11.25, true, kDunkelblau};
+const Texteintrag kLblModus{"lblModus", {4260, 9960, 6615, 855}, 11.25, true, kDunkelblau};
 
-const std::vector<Wahlgruppe::Zeile> kModuszeilen{{{4800, 10380, 2175, 480}, "Einfach"},
-                                                  {{7140, 10380, 2175, 480}, "Normal"},
-                                                  {{9450, 10380, 2175, 480}, "Experte"}};
+const std::vector<Wahlgruppe::Wahleintrag> kModuseintraege{{{4800, 10380, 2175, 480}, "Einfach"},
+                                                           {{7140, 10380, 2175, 480}, "Normal"},
+                                                           {{9450, 10380, 2175, 480}, "Experte"}};
 
-struct Pfeilzeile {
-  Pfeil pfeil;
-  Bildzeile zeile;
-};
-const Pfeilzeile kPfeile[] = {
+const std::pair<Pfeil, Bildeintrag> kPfeile[] = {
     {Pfeil::Start,
      {"imgZeigeStart",
       {2730, 9300, 360, 495},
@@ -55,249 +54,65 @@ const Pfeilzeile kPfeile[] = {
      {"imgWeiter", {4140, 10170, 495, 360}, "", "", "Pfeil auf den Knopf", QAccessible::Graphic}},
 };
 
-/// A row of the panel: the label picture and the places of its digits.
-struct Panelzeile {
-  Bildzeile tafel;
-  Twips ecke;
-  int stellen;
-};
-const Panelzeile kPanel[] = {
-    {{"Image1", {240, 3330, 2865, 630}, "tafelPunkte", "", "Punkte", QAccessible::Graphic},
-     {1860, 3450},
-     5},
-    {{"Image6",
-      {240, 4020, 2865, 630},
-      "tafelLevelpunkte",
-      "",
-      "Levelpunkte",
-      QAccessible::Graphic},
-     {2280, 4140},
-     3},
-    {{"Image4", {270, 6180, 2865, 630}, "tafelLevel", "", "Level", QAccessible::Graphic},
-     {2460, 6300},
-     2},
-    {{"Image3", {210, 5460, 2865, 630}, "tafelOffen", "", "noch offen", QAccessible::Graphic},
-     {2430, 5580},
-     2},
-    {{"Image2",
-      {240, 4710, 2865, 630},
-      "tafelFehlversuche",
-      "",
-      "Fehlversuche",
-      QAccessible::Graphic},
-     {2460, 4830},
-     2},
-};
-
-// The pattern of the cells and of the clue places; see ZelleLage and PlatzLage.
-constexpr Twips kZelle{2370, 2370, 705, 705};
-constexpr Twips kSpaltenplatz{2520, 1800, 435, 465};
-constexpr Twips kZeilenplatz{1800, 2460, 435, 465};
-constexpr int kPlatzschrittHoch = 420;
-constexpr int kPlatzschrittLinks = 350;
-
-int ZeileVon(int zelle) {
-  return (zelle - 1) / kLinie + 1;
-}
-int SpalteVon(int zelle) {
-  return (zelle - 1) % kLinie + 1;
-}
-
-Twips ZelleLage(int zelle) {
-  return {kZelle.left + kZelle.width * (SpalteVon(zelle) - 1),
-          kZelle.top + kZelle.height * (ZeileVon(zelle) - 1), kZelle.width, kZelle.height};
-}
-
-/// A clue place as the player counts it.
-struct Zahlfeld {
-  bool spalte;
-  int linie;  ///< From 1.
-  int k;      ///< From 1, the place next to the board.
-};
-
-Zahlfeld ZahlfeldVon(int platz) {
-  const int nummer = (platz - 1) % (kZahlfelder / 2);
-  return {platz <= kZahlfelder / 2, nummer / kPlaetzeJeLinie + 1, nummer % kPlaetzeJeLinie + 1};
-}
-
-/// The places of a line grow away from the playfield.
-Twips PlatzLage(int platz) {
-  const Zahlfeld feld = ZahlfeldVon(platz);
-  Twips lage = feld.spalte ? kSpaltenplatz : kZeilenplatz;
-  if (feld.spalte) {
-    lage.left += kZelle.width * (feld.linie - 1);
-    lage.top -= kPlatzschrittHoch * (feld.k - 1);
-  } else {
-    lage.left -= kPlatzschrittLinks * (feld.k - 1);
-    lage.top += kZelle.height * (feld.linie - 1);
-  }
-  return lage;
-}
-
-struct Kachelbild {
-  Kachel kachel;
-  const QPixmap *bild;
-  const char *ansage;
-};
-const std::array<Kachelbild, 4> &Kachelbilder() {
-  static const std::array<Kachelbild, 4> bilder{
-      {{Kachel::Verdeckt, &frmBilder::imgPlatte(1), "verdeckt"},
-       {Kachel::Markiert, &frmBilder::imgPlatte(2), "markiert"},
-       {Kachel::Fehler, &frmBilder::imgPlatte(0), "Fehler"},
-       {Kachel::Sarant, &frmBilder::imgSarant(), "Sarant"}}};
-  return bilder;
-}
-
-const Kachelbild &KachelbildVon(const QPixmap *bild) {
-  const auto &bilder = Kachelbilder();
-  return *std::find_if(bilder.begin(), bilder.end() - 1,
-                       [bild](const Kachelbild &eintrag) { return eintrag.bild == bild; });
-}
-
-const Kachelbild &KachelbildVon(Kachel kachel) {
-  const auto &bilder = Kachelbilder();
-  return *std::find_if(bilder.begin(), bilder.end() - 1,
-                       [kachel](const Kachelbild &eintrag) { return eintrag.kachel == kachel; });
-}
-
-/// A cell; what a screen reader says is read from its tile.
-class Zellenbild : public Bild {
- public:
-  Zellenbild(QWidget *eltern, int zelle) : Bild(eltern), zelle_(zelle) {
-    setObjectName("imgSar" + QString::number(zelle));
-    setGeometry(Rechteck(ZelleLage(zelle)));
-    SetzeAnsage(objectName(), QAccessible::Button);
-  }
-  QString Ansage() const override {
-    return QString("Zeile %1, Spalte %2: ").arg(ZeileVon(zelle_)).arg(SpalteVon(zelle_)) +
-           KachelbildVon(GezeigtesBild()).ansage;
-  }
-
- private:
-  int zelle_;
-};
-
-int ZahlVon(const QPixmap *bild) {
-  int zahl = 0;
-  while (zahl < kLinie && bild != &frmZahlen::imgZahl(zahl))
-    ++zahl;
-  return zahl;
-}
-
-/// A clue place; what a screen reader says is read from its number.
-class Platzbild : public Bild {
- public:
-  Platzbild(QWidget *eltern, int platz) : Bild(eltern), platz_(platz) {
-    setObjectName("imgDiggi" + QString::number(platz));
-    setGeometry(Rechteck(PlatzLage(platz)));
-    SetzeAnsage(objectName(), QAccessible::StaticText);
-  }
-  QString Ansage() const override {
-    const Zahlfeld feld = ZahlfeldVon(platz_);
-    return QString("%1 %2, Zahl %3: %4")
-        .arg(feld.spalte ? "Spalte" : "Zeile")
-        .arg(feld.linie)
-        .arg(feld.k)
-        .arg(ZahlVon(GezeigtesBild()));
-  }
-
- private:
-  int platz_;
-};
-
-std::size_t Index(int n) {
-  return static_cast<std::size_t>(n);
-}
-
 }  // namespace
 
-/// A picture button: where it stands, what a click does, and its name for the rules if they show
+/// A picture button: what it looks like, what a click does, and its name for the rules if they show
 /// and hide it.
-struct frmSpielfeld::Knopfzeile {
-  Bildzeile zeile;
-  void (frmSpielfeld::*klick)();
+struct frmSpielfeld::Knopfeintrag {
+  Bildeintrag bild;
+  std::function<void(frmSpielfeld &)> klick;
   std::optional<Bedienung> bedienung = std::nullopt;
-  const char *gedrueckt = "";  ///< Picture while a mouse button is held on it.
 };
 
-const std::vector<frmSpielfeld::Knopfzeile> &frmSpielfeld::Knopftabelle() {
+const std::vector<frmSpielfeld::Knopfeintrag> &frmSpielfeld::Knopftabelle() {
   using F = frmSpielfeld;
-  static const std::vector<Knopfzeile> tabelle{
-      {{"imgOeffnen",
-        {1590, 300, 480, 480},
-        "spielLaden",
-        "Vorhandene Spieledatei laden",
-        "Spiel laden"},
-       &F::imgOeffnen_Click,
-       Bedienung::imgOeffnen},
-      {{"imgSpeichern",
-        {2160, 300, 480, 480},
-        "spielSpeichern",
-        "Aktuellen Spielstand speichern",
-        "Spiel speichern"},
-       &F::imgSpeichern_Click,
-       Bedienung::imgSpeichern},
-      {{"lblAnleitung", {240, 1470, 1440, 630}, "cmdHilfeAuswahl", "Spielanleitung", "Hilfe"},
-       &F::lblAnleitung_Click,
-       std::nullopt,
-       "cmdHilfeGruen"},
-      {{"lblInfo",
-        {240, 2160, 1440, 630},
-        "cmdBeschreibungenAuswahl",
-        "Information zum Spiel",
-        "Info"},
-       &F::lblInfo_Click,
-       std::nullopt,
-       "cmdBeschreibungenFruen"},
-      {{"imgEinstellungen",
-        {330, 6930, 2865, 630},
-        "knopfEinstellungen",
-        "Einstellungen des Spieles ändern",
-        "Einstellungen"},
-       &F::imgEinstellungen_Click},
-      {{"imgNeuesSpiel",
-        {360, 8460, 2865, 630},
-        "knopfNeuesSpiel",
-        "Neues Spiel starten",
-        "Neues Spiel"},
-       &F::imgNeuesSpiel_Click},
-      {{"imgEnde", {420, 9210, 2040, 630}, "knopfBeenden", "Spiel beenden", "Beenden"},
-       &F::imgEnde_Click},
-      {{"imgNextLevel",
-        {1230, 10050, 2865, 630},
-        "knopfNextLevel",
-        "Start des nächsten Levels",
-        "Nächster Level"},
-       &F::imgNextLevel_Click,
-       Bedienung::imgNextLevel},
-      {{"cmdWiederholen", {1200, 10050, 2865, 630}, "knopfWiederholen", "", "Wiederholen"},
-       &F::cmdWiederholen_Click,
-       Bedienung::cmdWiederholen},
-      {{"imgBester",
-        {10140, 9960, 2865, 630},
-        "knopfBester",
-        "Eintrag in die Liste der besten Spieler",
-        "Bester Spieler"},
-       &F::imgBester_Click,
-       Bedienung::imgBester},
+  using B = Bedienung;
+  constexpr auto kKnopf = QAccessible::Button;
+  // clang-format off
+  static const std::vector<Knopfeintrag> tabelle{
+      {{"imgOeffnen", {1590, 300, 480, 480}, "spielLaden",
+        "Vorhandene Spieledatei laden", "Spiel laden"}, &F::imgOeffnen_Click, B::imgOeffnen},
+      {{"imgSpeichern", {2160, 300, 480, 480}, "spielSpeichern",
+        "Aktuellen Spielstand speichern", "Spiel speichern"}, &F::imgSpeichern_Click, B::imgSpeichern},
+      {{"lblAnleitung", {240, 1470, 1440, 630}, "cmdHilfeAuswahl",
+        "Spielanleitung", "Hilfe", kKnopf, "cmdHilfeGruen"}, &F::lblAnleitung_Click},
+      {{"lblInfo", {240, 2160, 1440, 630}, "cmdBeschreibungenAuswahl",
+        "Information zum Spiel", "Info", kKnopf, "cmdBeschreibungenFruen"}, &F::lblInfo_Click},
+      {{"imgEinstellungen", {330, 6930, 2865, 630}, "knopfEinstellungen",
+        "Einstellungen des Spieles ändern", "Einstellungen"}, &F::imgEinstellungen_Click},
+      {{"imgNeuesSpiel", {360, 8460, 2865, 630}, "knopfNeuesSpiel",
+        "Neues Spiel starten", "Neues Spiel"}, imgNeuesSpiel_Click},
+      {{"imgEnde", {420, 9210, 2040, 630}, "knopfBeenden",
+        "Spiel beenden", "Beenden"}, imgEnde_Click},
+      {{"imgNextLevel", {1230, 10050, 2865, 630}, "knopfNextLevel",
+        "Start des nächsten Levels", "Nächster Level"}, imgNextLevel_Click, B::imgNextLevel},
+      {{"cmdWiederholen", {1200, 10050, 2865, 630}, "knopfWiederholen",
+        "", "Wiederholen"}, cmdWiederholen_Click, B::cmdWiederholen},
+      {{"imgBester", {10140, 9960, 2865, 630}, "knopfBester",
+        "Eintrag in die Liste der besten Spieler", "Bester Spieler"}, &F::imgBester_Click, B::imgBester},
   };
+  // clang-format on
   return tabelle;
 }
 
 frmSpielfeld::frmSpielfeld() {
   setWindowTitle(QString::fromStdString(Versionstext()));
+  setWindowFlag(Qt::MSWindowsFixedSizeDialogHint);
   setContextMenuPolicy(Qt::NoContextMenu);
   auto *flaeche = new Bild(this, kFlaeche);
   flaeche->setFixedSize(Rechteck(kFenster).size());
   setCentralWidget(flaeche);
-  FeldAufbauen(flaeche);
-  lblModus_ = NeueBeschriftung(flaeche, kLblModus);
+  Picture1_ = new Spielbrett(flaeche, [this](int zelle, Qt::MouseButton taste) {
+    imgSar_MouseDown(*this, zelle, taste == Qt::LeftButton ? kLinkeTaste : kRechteTaste);
+  });
+  lblModus_ = new Beschriftung(flaeche, kLblModus);
   KnoepfeAufbauen(flaeche);
-  PanelAufbauen(flaeche);
+  PfeileAufbauen(flaeche);
+  panel_ = std::make_unique<Panel>(flaeche);
   MenueAufbauen();
   tastatur_ = std::make_unique<Tastatur>(
-      flaeche, std::vector<QWidget *>(imgSar_.begin() + 1, imgSar_.end()),
-      [this](bool spalte, int linie) { return Zahlen(spalte, linie); });
+      flaeche, Picture1_->Zellen(),
+      [this](bool spalte, int linie) { return Picture1_->Linientext(spalte, linie); });
   for (const Bedienung bedienung : {Bedienung::imgNextLevel, Bedienung::cmdWiederholen,
                                     Bedienung::imgSpeichern, Bedienung::imgBester})
     Zeige(bedienung, false);
@@ -305,108 +120,80 @@ frmSpielfeld::frmSpielfeld() {
 
   layout()->setSizeConstraint(QLayout::SetFixedSize);
   adjustSize();
-  const QRect schirm = screen()->availableGeometry();
-  move(schirm.x() + (schirm.width() - width()) / 2, schirm.y() + (schirm.height() - height()) / 2);
+  Zentriere();
+  BehalteGroesse(this);
 }
 
-void frmSpielfeld::FeldAufbauen(QWidget *flaeche) {
-  auto *Picture1 = new Bild(flaeche, kPicture1);
-  for (int n = 1; n <= kZellen; ++n) {
-    imgSar_.at(Index(n)) = new Zellenbild(Picture1, n);
-    imgSar_.at(Index(n))->SetzeDruck([this, n](Qt::MouseButton taste) {
-      imgSar_MouseDown(*this, n, taste == Qt::LeftButton ? kLinkeTaste : kRechteTaste);
-    });
-    SetzeKachel(n, Kachel::Verdeckt);
-  }
-  for (int n = 1; n <= kZahlfelder; ++n) {
-    imgDiggi_.at(Index(n)) = new Platzbild(Picture1, n);
-    SetzeZahl(n, 0);
-  }
+void frmSpielfeld::Zentriere() {
+  const QRect schirm = screen()->availableGeometry();
+  const QSize rest = (schirm.size() - frameGeometry().size()).expandedTo({0, 0});
+  move(schirm.topLeft() + QPoint(rest.width(), rest.height()) / 2);
 }
 
 void frmSpielfeld::KnoepfeAufbauen(QWidget *flaeche) {
-  for (const Knopfzeile &knopf : Knopftabelle()) {
-    auto *bild = new Bild(flaeche, knopf.zeile);
-    bild->SetzeKlick([this, klick = knopf.klick] { (this->*klick)(); });
+  for (const Knopfeintrag &knopf : Knopftabelle()) {
+    auto *bild = new Bild(flaeche, knopf.bild);
+    bild->SetzeKlick([this, klick = knopf.klick] { klick(*this); });
     if (knopf.bedienung)
       bedienungen_[*knopf.bedienung] = bild;
-    if (*knopf.gedrueckt != '\0') {
-      const QPixmap *ruhend = bild->GezeigtesBild();
-      const QPixmap *gedrueckt = &Bilddatei(knopf.gedrueckt);
-      bild->SetzeDruck([bild, gedrueckt](Qt::MouseButton) { bild->SetzeBild(gedrueckt); });
-      bild->SetzeLoslassen([bild, ruhend](Qt::MouseButton) { bild->SetzeBild(ruhend); });
-    }
   }
-  imgModus_ = std::make_unique<Wahlgruppe>(flaeche, kModuswahl, kModuszeilen,
+  imgModus_ = std::make_unique<Wahlgruppe>(flaeche, kModuswahl, kModuseintraege,
                                            [this](int modus) { imgModus_Click(modus); });
-  for (const Pfeilzeile &zeile : kPfeile) {
-    pfeile_[zeile.pfeil] = new Bild(flaeche, zeile.zeile);
-    ZeigePfeil(zeile.pfeil, kKeinPfeil);
-  }
+}
+
+void frmSpielfeld::PfeileAufbauen(QWidget *flaeche) {
+  for (const auto &[pfeil, bild] : kPfeile)
+    pfeile_[pfeil] = new Bild(flaeche, bild);
   bedienungen_[Bedienung::imgWeiter] = pfeile_[Pfeil::Weiter];
   connect(&timer_[Pfeil::Start], &QTimer::timeout, this, [this] { ZeigeStart(*this); });
   connect(&timer_[Pfeil::Weiter], &QTimer::timeout, this, [this] { NaechsterLevelBlinkt(*this); });
 }
 
-void frmSpielfeld::PanelAufbauen(QWidget *flaeche) {
-  std::vector<Zifferreihe *> reihen;
-  for (const Panelzeile &zeile : kPanel) {
-    new Bild(flaeche, zeile.tafel);
-    reihen.push_back(new Zifferreihe(flaeche, zeile.ecke, zeile.stellen, zeile.tafel.ansage));
-  }
-  imgPunkte_ = reihen[0];
-  imgLevel_ = reihen[1];
-  imgAuswertung_ = {reihen[2], reihen[3], reihen[4]};
-}
-
 void frmSpielfeld::MenueAufbauen() {
+  using F = frmSpielfeld;
+  // Assistive technology reaches the entries even while another window waits for an answer.
+  const auto Tue = [this](auto tat) {
+    return [this, tat] {
+      if (!QApplication::activeModalWidget())
+        std::invoke(tat, *this);
+    };
+  };
   // The blanks behind the first two captions keep the heads of the menus apart.
   QMenu *mnuMenue1 = menuBar()->addMenu("&Spiel                     ");
-  mnuSpiel_[1] = mnuMenue1->addAction("Neues Spiel", QKeySequence(Qt::CTRL | Qt::Key_N));
-  mnuSpiel_[2] = mnuMenue1->addAction("Spielstand laden...", QKeySequence(Qt::CTRL | Qt::Key_O));
-  mnuSpiel_[3] =
-      mnuMenue1->addAction("Spielstand speichern unter...", QKeySequence(Qt::CTRL | Qt::Key_S));
+  mnuMenue1->addAction("Neues Spiel", Qt::CTRL | Qt::Key_N, this, Tue(imgNeuesSpiel_Click));
+  mnuLaden_ = mnuMenue1->addAction("Spielstand laden...", Qt::CTRL | Qt::Key_O, this,
+                                   Tue(&F::imgOeffnen_Click));
+  mnuSpeichern_ = mnuMenue1->addAction("Spielstand speichern unter...", Qt::CTRL | Qt::Key_S, this,
+                                       Tue(&F::imgSpeichern_Click));
   mnuMenue1->addSeparator();
-  mnuSpiel_[5] = mnuMenue1->addAction("b&eenden");
-  for (const auto &[eintrag, aktion] : mnuSpiel_)
-    connect(aktion, &QAction::triggered, this, [this, n = eintrag] { mnuSpiel_Click(n); });
+  mnuMenue1->addAction("b&eenden", this, Tue(imgEnde_Click));
 
   QMenu *mnuMenue2 = menuBar()->addMenu("&Optionen             ");
-  QMenu *mnuSound = mnuMenue2->addMenu("Sound");
-  mnuSound_ = mnuSound->menuAction();
-  mnusoundan_[1] = mnuSound->addAction("an");
-  mnusoundan_[2] = mnuSound->addAction("aus");
-  for (const auto &[eintrag, aktion] : mnusoundan_) {
-    aktion->setCheckable(true);
-    connect(aktion, &QAction::triggered, this, [this, n = eintrag] { mnusoundan_Click(n); });
-  }
-  mnusoundan_[1]->setChecked(true);
+  SoundmenueAufbauen(mnuMenue2->addMenu("Sound"));
   mnuMenue2->addSeparator();
-  connect(mnuMenue2->addAction("Einstellungen..."), &QAction::triggered, this,
-          [this] { imgEinstellungen_Click(); });
+  mnuMenue2->addAction("Einstellungen...", this, Tue(&F::imgEinstellungen_Click));
 
   QMenu *mnuMenue3 = menuBar()->addMenu("&Information");
-  std::map<int, QAction *> mnuInfo;
-  mnuInfo[1] = mnuMenue3->addAction("&Spielanleitung", QKeySequence(Qt::Key_F1));
-  mnuInfo[2] = mnuMenue3->addAction("&zu dieser Anwendung...");
+  mnuMenue3->addAction("&Spielanleitung", Qt::Key_F1, this, Tue(&F::lblAnleitung_Click));
+  mnuMenue3->addAction("&zu dieser Anwendung...", this, Tue(&F::lblInfo_Click));
   mnuMenue3->addSeparator();
-  mnuInfo[4] = mnuMenue3->addAction("&Beste Spieler...");
-  for (const auto &[eintrag, aktion] : mnuInfo)
-    connect(aktion, &QAction::triggered, this, [this, n = eintrag] { mnuInfo_Click(n); });
+  mnuMenue3->addAction("&Beste Spieler...", this, Tue(&F::mnuBeste_Click));
 }
 
-QString frmSpielfeld::Zahlen(bool spalte, int linie) const {
-  QStringList zahlen;
-  for (int platz = 1; platz <= kZahlfelder; ++platz) {
-    const Zahlfeld feld = ZahlfeldVon(platz);
-    const Bild *bild = imgDiggi_.at(Index(platz));
-    if (feld.spalte == spalte && feld.linie == linie && !bild->isHidden())
-      zahlen.prepend(QString::number(ZahlVon(bild->GezeigtesBild())));
-  }
-  return QString("%1 %2: %3")
-      .arg(spalte ? "Spalte" : "Zeile")
-      .arg(linie)
-      .arg(zahlen.isEmpty() ? "leer" : zahlen.join(", "));
+void frmSpielfeld::SoundmenueAufbauen(QMenu *menue) {
+  auto *mnusoundan = new QActionGroup(this);
+  QAction *an = mnusoundan->addAction(menue->addAction("an"));
+  QAction *aus = mnusoundan->addAction(menue->addAction("aus"));
+  for (QAction *aktion : {an, aus})
+    aktion->setCheckable(true);
+  an->setChecked(true);
+  connect(mnusoundan, &QActionGroup::triggered, this,
+          [an](const QAction *aktion) { spiel.SoundAn = aktion == an; });
+
+  const auto Frage = [mnuSound = menue->menuAction()] { mnuSound->setEnabled(SoundGeraetDa()); };
+  connect(&DerTonmelder(), &Tonmelder::Gewechselt, menue, Frage);
+  connect(static_cast<QMenu *>(menue->parentWidget()), &QMenu::aboutToShow, menue, Frage);
+  Frage();
 }
 
 void frmSpielfeld::ZeigeModuswahl() {
@@ -415,61 +202,51 @@ void frmSpielfeld::ZeigeModuswahl() {
 
 void frmSpielfeld::ErlaubeLaden(bool erlaubt) {
   Zeige(Bedienung::imgOeffnen, erlaubt);
-  mnuSpiel_.at(2)->setEnabled(erlaubt);
+  mnuLaden_->setEnabled(erlaubt);
 }
 
-void frmSpielfeld::ErlaubeSound(bool erlaubt) {
-  mnuSound_->setEnabled(erlaubt);
+frmBeste &frmSpielfeld::Bestenfenster() {
+  if (!beste_) {
+    beste_ = new frmBeste(this, *this);
+    connect(beste_, &frmBeste::Entladen, this, [this] { beste_ = nullptr; });
+  }
+  return *beste_;
 }
 
 Kachel frmSpielfeld::LiesKachel(int zelle) const {
-  return KachelbildVon(imgSar_.at(Index(zelle))->GezeigtesBild()).kachel;
+  return Picture1_->LiesKachel(zelle);
 }
 
 void frmSpielfeld::SetzeKachel(int zelle, Kachel kachel) {
-  imgSar_.at(Index(zelle))->SetzeBild(KachelbildVon(kachel).bild);
+  Picture1_->SetzeKachel(zelle, kachel);
 }
 
 void frmSpielfeld::SetzeZahl(int platz, int zahl) {
-  imgDiggi_.at(Index(platz))->SetzeBild(&frmZahlen::imgZahl(zahl));
+  Picture1_->SetzeZahl(platz, zahl);
 }
 
 bool frmSpielfeld::IstZahlNull(int platz) const {
-  return ZahlVon(imgDiggi_.at(Index(platz))->GezeigtesBild()) == 0;
+  return Picture1_->LiesZahl(platz) == 0;
 }
 
 void frmSpielfeld::ZeigeZahlfeld(int platz, bool sichtbar) {
-  imgDiggi_.at(Index(platz))->setVisible(sichtbar);
+  Picture1_->ZeigeZahlfeld(platz, sichtbar);
 }
 
-void frmSpielfeld::SetzeZiffer(Ziffernreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) {
-  const QPixmap *bild =
-      farbe == Ziffernfarbe::Rot ? &frmDigital::imgRot(ziffer) : &frmDigital::imgDiggi(ziffer);
-  switch (reihe) {
-    case Ziffernreihe::imgPunkte:
-      imgPunkte_->SetzeZiffer(stelle, bild);
-      break;
-    case Ziffernreihe::imgLevel:
-      imgLevel_->SetzeZiffer(stelle, bild);
-      break;
-    case Ziffernreihe::imgAuswertung:
-      imgAuswertung_.at(Index(stelle / 2))->SetzeZiffer(stelle % 2, bild);
-      break;
-  }
+void frmSpielfeld::SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) {
+  panel_->SetzeZiffer(reihe, stelle, farbe, ziffer);
 }
 
 void frmSpielfeld::SetzeModustext(const std::string &text) {
-  SetzeText(lblModus_, text);
+  lblModus_->ZeigeText(text);
 }
 
 void frmSpielfeld::SetzeModusfarbe(Textfarbe farbe) {
-  QPalette palette = lblModus_->palette();
-  palette.setColor(QPalette::WindowText, QColor(farbe == Textfarbe::Blau ? kBlau : kDunkelblau));
-  lblModus_->setPalette(palette);
+  lblModus_->SetzeFarbe(farbe == Textfarbe::Blau ? kBlau : kDunkelblau);
 }
 
 bool frmSpielfeld::IstSichtbar(Bedienung bedienung) const {
-  return !bedienungen_.at(bedienung)->isHidden();  // isVisible() is false in a minimised window.
+  return !bedienungen_.at(bedienung)->isHidden();  // isVisible() is false before the window shows.
 }
 
 void frmSpielfeld::Zeige(Bedienung bedienung, bool sichtbar) {
@@ -477,7 +254,7 @@ void frmSpielfeld::Zeige(Bedienung bedienung, bool sichtbar) {
 }
 
 void frmSpielfeld::ErlaubeSpeichern(bool erlaubt) {
-  mnuSpiel_.at(3)->setEnabled(erlaubt);
+  mnuSpeichern_->setEnabled(erlaubt);
 }
 
 void frmSpielfeld::VerbergeModuswahl() {
@@ -516,17 +293,34 @@ bool frmSpielfeld::Frage(const Meldung &meldung) {
 }
 
 void frmSpielfeld::BestenlistePruefen() {
-  frmBeste::Fenster(this, *this);  // The list in memory exists as soon as its window does.
+  Bestenfenster();  // Its making reads the list anew.
   ::BestenlistePruefen(*this);
 }
 
 void frmSpielfeld::ZeigeBesteneintrag() {
-  frmBeste::Fenster(this, *this).ZeigeZumEintragen();
+  Bestenfenster().ZeigeZumEintragen();
 }
 
 void frmSpielfeld::BeendeDasSpiel() {
   spiel.Punkte = 0;
   Form_Unload();
+}
+
+void frmSpielfeld::showEvent(QShowEvent *ereignis) {
+  QMainWindow::showEvent(ereignis);
+  QTimer::singleShot(0, this, [this] {  // Meanwhile the desktop puts the frame around the window.
+    LadeSpielbilder(devicePixelRatioF());
+    std::ranges::for_each(findChildren<Bild *>(), &Bild::LadeVor);
+  });
+}
+
+void frmSpielfeld::moveEvent(QMoveEvent *ereignis) {
+  QMainWindow::moveEvent(ereignis);
+  // How wide the frame is becomes known when the desktop has put it around the window.
+  if (!mitRahmenZentriert_ && frameGeometry() != geometry()) {
+    mitRahmenZentriert_ = true;
+    Zentriere();
+  }
 }
 
 void frmSpielfeld::closeEvent(QCloseEvent *ereignis) {
@@ -539,6 +333,11 @@ void frmSpielfeld::keyPressEvent(QKeyEvent *ereignis) {
     QMainWindow::keyPressEvent(ereignis);
 }
 
+void frmSpielfeld::keyReleaseEvent(QKeyEvent *ereignis) {
+  tastatur_->LasseLos(*ereignis);
+  QMainWindow::keyReleaseEvent(ereignis);
+}
+
 bool frmSpielfeld::focusNextPrevChild(bool vorwaerts) {
   return tastatur_->WechsleBereich(vorwaerts);
 }
@@ -549,23 +348,19 @@ void frmSpielfeld::Form_Unload() {
 }
 
 void frmSpielfeld::imgOeffnen_Click() {
-  mnuSpiel_Click(2);
+  bool weiter = true;
+  SucheSpielstand(*this, weiter);
+  const QString pfad = weiter ? DateiOeffnenDialog(this, Dialogordner()) : QString();
+  if (!pfad.isEmpty())
+    LadeGewaehlteDatei(*this, pfad);
 }
 
 void frmSpielfeld::imgSpeichern_Click() {
-  mnuSpiel_Click(3);
-}
-
-void frmSpielfeld::imgNeuesSpiel_Click() {
-  ::imgNeuesSpiel_Click(*this);
-}
-
-void frmSpielfeld::imgNextLevel_Click() {
-  ::imgNextLevel_Click(*this);
-}
-
-void frmSpielfeld::cmdWiederholen_Click() {
-  ::cmdWiederholen_Click(*this);
+  const QString pfad = DateiSpeichernDialog(this, Dialogordner());
+  if (pfad.isEmpty())
+    Melde(MeldungKeinDateiname());
+  else
+    SpeichereSpielstand(*this, MitEndung(pfad));
 }
 
 void frmSpielfeld::imgModus_Click(int modus) {
@@ -581,12 +376,9 @@ void frmSpielfeld::imgEinstellungen_Click() {
   StoppePfeil(*this, Pfeil::Start);
   SpieleSound(kKlangBlip);
   frmOptionen optionen(this, *this);
-  Platziere(&optionen, this, Lage::LinksOben);
+  optionen.Platziere(this, Lage::LinksOben);
   optionen.exec();
-}
-
-void frmSpielfeld::imgEnde_Click() {
-  ::imgEnde_Click(*this);
+  activateWindow();  // Some desktops lose the focus when two windows close one after the other.
 }
 
 void frmSpielfeld::imgBester_Click() {
@@ -602,54 +394,7 @@ void frmSpielfeld::lblInfo_Click() {
   Melde(MeldungInfo());
 }
 
-void frmSpielfeld::mnuSpiel_Click(int eintrag) {
-  switch (eintrag) {
-    case 1:
-      imgNeuesSpiel_Click();
-      break;
-    case 2: {
-      bool weiter = true;
-      SucheSpielstand(*this, weiter);
-      const QString pfad = weiter ? DateiOeffnenDialog(this) : QString();
-      if (!pfad.isEmpty())
-        LadeGewaehlteDatei(*this, pfad);
-      break;
-    }
-    case 3: {
-      const QString pfad = DateiSpeichernDialog(this);
-      if (pfad.isEmpty())
-        Melde(MeldungKeinDateiname());
-      else
-        SpeichereSpielstand(*this, MitEndung(pfad));
-      break;
-    }
-    case 5:
-      imgEnde_Click();
-      break;
-    default:
-      break;
-  }
-}
-
-void frmSpielfeld::mnusoundan_Click(int eintrag) {
-  for (const auto &[n, aktion] : mnusoundan_)
-    aktion->setChecked(n == eintrag);
-  spiel.SoundAn = mnusoundan_.at(1)->isChecked();
-}
-
-void frmSpielfeld::mnuInfo_Click(int eintrag) {
-  switch (eintrag) {
-    case 1:
-      lblAnleitung_Click();
-      break;
-    case 2:
-      lblInfo_Click();
-      break;
-    case 4:
-      SpieleSound(kKlangBlip);
-      frmBeste::Fenster(this, *this).ZeigeZumLesen();
-      break;
-    default:
-      break;
-  }
+void frmSpielfeld::mnuBeste_Click() {
+  SpieleSound(kKlangBlip);
+  Bestenfenster().ZeigeZumLesen();
 }

@@ -1,22 +1,23 @@
 /// @file
-/// The main window: the playfield, the panel, the buttons and the menu. It is the screen of the
-/// rules, and it hands every press on to them.
+/// The main window: the board, the panel, the buttons and the menu. It is the screen of the rules,
+/// and it hands every press on to them.
 #pragma once
 
 #include <QMainWindow>
 #include <QTimer>
-#include <array>
 #include <map>
 #include <memory>
 
+#include "controls/wahlgruppe.h"
 #include "core/ansicht.h"
-#include "dialogs/wahlgruppe.h"
+#include "shell/panel.h"
 #include "shell/tastatur.h"
 
+class Beschriftung;
 class Bild;
 class QAction;
-class QLabel;
-class Zifferreihe;
+class Spielbrett;
+class frmBeste;
 
 class frmSpielfeld final : public QMainWindow, public Ansicht {
   Q_OBJECT
@@ -28,15 +29,16 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void ZeigeModuswahl();
   /// Shows the button that loads a game and enables its menu entry, or takes both away.
   void ErlaubeLaden(bool erlaubt);
-  /// Enables or disables the sound switch of the menu.
-  void ErlaubeSound(bool erlaubt);
+  /// The window of the best list, made at its first use and again after its closing box has
+  /// unloaded it.
+  frmBeste &Bestenfenster();
 
   Kachel LiesKachel(int zelle) const override;
   void SetzeKachel(int zelle, Kachel kachel) override;
   void SetzeZahl(int platz, int zahl) override;
   bool IstZahlNull(int platz) const override;
   void ZeigeZahlfeld(int platz, bool sichtbar) override;
-  void SetzeZiffer(Ziffernreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override;
+  void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override;
   void SetzeModustext(const std::string &text) override;
   void SetzeModusfarbe(Textfarbe farbe) override;
   bool IstSichtbar(Bedienung bedienung) const override;
@@ -53,49 +55,44 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void BeendeDasSpiel() override;
 
  protected:
+  void showEvent(QShowEvent *ereignis) override;
+  void moveEvent(QMoveEvent *ereignis) override;
   void closeEvent(QCloseEvent *ereignis) override;
   void keyPressEvent(QKeyEvent *ereignis) override;
+  void keyReleaseEvent(QKeyEvent *ereignis) override;
   bool focusNextPrevChild(bool vorwaerts) override;
 
  private:
-  struct Knopfzeile;
-  static const std::vector<Knopfzeile> &Knopftabelle();
+  struct Knopfeintrag;
+  static const std::vector<Knopfeintrag> &Knopftabelle();
 
   void KnoepfeAufbauen(QWidget *flaeche);
-  void PanelAufbauen(QWidget *flaeche);
-  void FeldAufbauen(QWidget *flaeche);
+  void PfeileAufbauen(QWidget *flaeche);
   void MenueAufbauen();
-  /// The visible numbers of a line, from the left or from the top.
-  QString Zahlen(bool spalte, int linie) const;
+  void SoundmenueAufbauen(QMenu *menue);
+  /// Puts the window with its frame, as far as that is known, into the middle of the screen.
+  void Zentriere();
   void Form_Unload();
 
   void imgOeffnen_Click();
   void imgSpeichern_Click();
-  void imgNeuesSpiel_Click();
-  void imgNextLevel_Click();
-  void cmdWiederholen_Click();
   void imgModus_Click(int modus);
   void imgEinstellungen_Click();
-  void imgEnde_Click();
   void imgBester_Click();
   void lblAnleitung_Click();
   void lblInfo_Click();
-  void mnuSpiel_Click(int eintrag);
-  void mnusoundan_Click(int eintrag);
-  void mnuInfo_Click(int eintrag);
+  void mnuBeste_Click();
 
-  std::array<Bild *, kZellen + 1> imgSar_{};        ///< Index 0 is unused.
-  std::array<Bild *, kZahlfelder + 1> imgDiggi_{};  ///< Index 0 is unused.
+  Spielbrett *Picture1_ = nullptr;
+  std::unique_ptr<Panel> panel_;
   std::map<Bedienung, Bild *> bedienungen_;
   std::map<Pfeil, Bild *> pfeile_;
   std::map<Pfeil, QTimer> timer_;
-  Zifferreihe *imgPunkte_ = nullptr;
-  Zifferreihe *imgLevel_ = nullptr;
-  std::array<Zifferreihe *, 3> imgAuswertung_{};  ///< Places 0 and 1, 2 and 3, 4 and 5.
-  QLabel *lblModus_ = nullptr;
+  Beschriftung *lblModus_ = nullptr;
   std::unique_ptr<Wahlgruppe> imgModus_;
   std::unique_ptr<Tastatur> tastatur_;
-  std::map<int, QAction *> mnuSpiel_;
-  std::map<int, QAction *> mnusoundan_;
-  QAction *mnuSound_ = nullptr;
+  QAction *mnuLaden_ = nullptr;
+  QAction *mnuSpeichern_ = nullptr;
+  bool mitRahmenZentriert_ = false;
+  frmBeste *beste_ = nullptr;  ///< Null while the window is not loaded.
 };

@@ -5,27 +5,29 @@
 #include <QLocale>
 #include <QPixmapCache>
 #include <QScreen>
+#include <QToolTip>
 #include <QTranslator>
 #include <algorithm>
 
+#include "controls/beschriftung.h"
+#include "controls/bilder.h"
 #include "core/befehle.h"
-#include "dialogs/bilder.h"
-#include "dialogs/ersterblick.h"
 #include "dialogs/frmHintergrund.h"
 #include "dialogs/zugang.h"
 #include "persistence/iniLumbra.h"
 #include "persistence/modBeste.h"
 #include "persistence/modCdVersion.h"
 #include "persistence/modDateiHandling.h"
+#include "platform/hintergrundfenster.h"
 #include "platform/modExistiertDatei.h"
-#include "platform/mod_MySound.h"
-#include "platform/pfade.h"
 #include "shell/frmSpielfeld.h"
 
 namespace {
 
 constexpr QSize kFlaeche(878, 729);  ///< The client area of the main window.
-constexpr QSize kRahmen(8, 60);      ///< What its frame and its menu bar take; they do not shrink.
+constexpr QSize kRahmen(16, 61);     ///< What its frame and its menu bar take; they do not shrink.
+
+constexpr double kMenueschrift = 9.75;  ///< Points at 96 dpi.
 
 }  // namespace
 
@@ -36,6 +38,11 @@ double Schrumpffaktor() {
 }
 
 void RichteAnwendungEin(QApplication &anwendung) {
+  // Menus, tool tips and file dialogs look like the game on dark desktops, too.
+  QApplication::setStyle("Fusion");
+  QApplication::setPalette(Steinpalette());
+  QToolTip::setPalette(Steinpalette());
+  QApplication::setFont(Schrift(kMenueschrift, false));
   QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
   auto *uebersetzung = new QTranslator(&anwendung);
   if (uebersetzung->load(":/uebersetzung/qtbase_de.qm"))
@@ -45,11 +52,11 @@ void RichteAnwendungEin(QApplication &anwendung) {
   QApplication::setDesktopFileName("example.glanzgrube.Glanzgrube");
   // The game keeps its own pictures. Here only the icons of closed file dialogs would pile up.
   QPixmapCache::setCacheLimit(0);
+  QApplication::setWindowIcon(QIcon(Katalogbild("fenstersymbol", anwendung.devicePixelRatio())));
   RichteZugangEin();
 }
 
 void Main(frmSpielfeld &fenster, const QString &datenwurzel) {
-  SoundVorbereiten(Programmordner());
   LegeDatenordnerFest(fenster, datenwurzel);
   if (!ExistiertDatei(IniPfad()))
     SchreibeIni();
@@ -59,18 +66,11 @@ void Main(frmSpielfeld &fenster, const QString &datenwurzel) {
   if (!ExistiertDatei(BestenlistePfad()))
     BestenlisteAnlegen();
   BestenlisteLaden(fenster);
-  NachErstemBlick(&fenster, [&fenster] {  // A slow sound server keeps no one from looking.
-    QApplication::setWindowIcon(QIcon(Bilddatei("fenstersymbol")));
-    if (!SoundGeraetDa()) {
-      spiel.SoundAn = false;
-      fenster.ErlaubeSound(false);
-    }
-  });
   WarteAufSpiel(fenster);
-  // The cover goes first, so that the main window ends up above it.
-  auto *hintergrund = new frmHintergrund(&fenster);
-  QObject::connect(qApp, &QCoreApplication::aboutToQuit, hintergrund, &QObject::deleteLater);
-  hintergrund->show();
+  if (StapeltFenster()) {  // The cover goes first, so that the main window ends up above it.
+    auto *hintergrund = new frmHintergrund(&fenster);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, hintergrund, &QObject::deleteLater);
+    hintergrund->show();
+  }
   fenster.show();
-  LadeGemerkteBilder();  // Meanwhile the desktop frames the windows.
 }

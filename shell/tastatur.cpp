@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <map>
 
+#include "controls/bild.h"
+#include "controls/zifferreihe.h"
 #include "core/spiel.h"
-#include "dialogs/bild.h"
-#include "dialogs/zifferreihe.h"
 
 Tastatur::Tastatur(QWidget *flaeche, std::vector<QWidget *> zellen,
                    std::function<QString(bool, int)> zahlen)
@@ -37,7 +37,11 @@ QWidget *Tastatur::Aktuelles() const {
 bool Tastatur::WechsleBereich(bool vorwaerts) {
   if (!QAccessible::isActive())
     return false;
-  bereich_ = (bereich_ + (vorwaerts ? 1 : kBereiche - 1)) % kBereiche;
+  const QWidget *fokus = flaeche_->window()->focusWidget();
+  if (fokus && fokus->isHidden())
+    stelle_.at(static_cast<std::size_t>(bereich_)) = 0;
+  else
+    bereich_ = (bereich_ + (vorwaerts ? 1 : kBereiche - 1)) % kBereiche;
   Aktuelles()->setFocus();
   return true;
 }
@@ -60,6 +64,12 @@ void Tastatur::LiesZahlen(bool spalte) const {
   Aktuelles()->setAccessibleDescription(zahlen_(spalte, linie));
 }
 
+bool Tastatur::IstWiederholung(const QKeyEvent &taste) const {
+  // An X server tells each repeat as a release and a press of the same instant, and Qt recognises
+  // them only if it has read both by then.
+  return taste.isAutoRepeat() || (losgelassen_ != 0 && taste.timestamp() == losgelassen_);
+}
+
 bool Tastatur::Druecke(const QKeyEvent &taste) {
   if (!QAccessible::isActive() || !flaeche_->isAncestorOf(flaeche_->window()->focusWidget()))
     return false;
@@ -73,6 +83,8 @@ bool Tastatur::Druecke(const QKeyEvent &taste) {
   }
   auto *bild = qobject_cast<Bild *>(Aktuelles());
   if (taste.key() == Qt::Key_Space && bild) {
+    if (IstWiederholung(taste))  // What it presses now may have come under the key meanwhile.
+      return true;
     const bool markieren = taste.modifiers().testFlag(Qt::ShiftModifier);
     bild->Bediene(markieren ? Qt::RightButton : Qt::LeftButton);
     return true;

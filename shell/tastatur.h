@@ -22,10 +22,13 @@ class Tastatur {
   Tastatur(QWidget *flaeche, std::vector<QWidget *> zellen,
            std::function<QString(bool spalte, int linie)> zahlen);
 
-  /// Moves the focus to the next or the previous area; false if the keyboard is not in use.
+  /// Moves the focus to the next or the previous area; false if the keyboard is not in use. Qt asks
+  /// for this also when the control that has the focus vanishes: then to the area's first element.
   bool WechsleBereich(bool vorwaerts);
   /// Acts on a key; false if it means nothing.
   bool Druecke(const QKeyEvent &taste);
+  /// Remembers the release of a key, by which the repeats of a held one are known.
+  void LasseLos(const QKeyEvent &taste) { losgelassen_ = taste.timestamp(); }
 
  private:
   enum Bereich { kKnoepfe, kFeld, kPanel, kBereiche };
@@ -33,11 +36,13 @@ class Tastatur {
   std::vector<QWidget *> Elemente(int bereich) const;
   void Bewege(int schritt);
   void LiesZahlen(bool spalte) const;
+  bool IstWiederholung(const QKeyEvent &taste) const;
   QWidget *Aktuelles() const;
 
   QWidget *flaeche_;
   std::vector<QWidget *> zellen_;
   std::function<QString(bool, int)> zahlen_;
   int bereich_ = kPanel;                         ///< The first Tab leads to the buttons.
+  quint64 losgelassen_ = 0;                      ///< When the last release of a key came, in ms.
   std::array<std::size_t, kBereiche> stelle_{};  ///< Where the focus stands in each area.
 };

@@ -19,7 +19,7 @@ class FeldAnsicht : public Ansicht {
   std::array<Kachel, kZellen + 1> kacheln{};
   std::array<int, kZahlfelder + 1> zahlen{};
   std::array<bool, kZahlfelder + 1> zahlSichtbar{};
-  std::map<std::pair<Ziffernreihe, int>, Ziffer> ziffern;
+  std::map<std::pair<Panelreihe, int>, Ziffer> ziffern;
   std::string modustext;
   Textfarbe modusfarbe = Textfarbe::Dunkelblau;
   std::map<Bedienung, bool> sichtbar;
@@ -39,7 +39,7 @@ class FeldAnsicht : public Ansicht {
   void SetzeZahl(int platz, int zahl) override { zahlen.at(Index(platz)) = zahl; }
   bool IstZahlNull(int platz) const override { return zahlen.at(Index(platz)) == 0; }
   void ZeigeZahlfeld(int platz, bool s) override { zahlSichtbar.at(Index(platz)) = s; }
-  void SetzeZiffer(Ziffernreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override {
+  void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override {
     ziffern[{reihe, stelle}] = {farbe, ziffer};
   }
   void SetzeModustext(const std::string &text) override { modustext = text; }
@@ -72,12 +72,13 @@ class FeldAnsicht : public Ansicht {
   void ZeigeBesteneintrag() override { beimBesteneintrag(); }
   void BeendeDasSpiel() override { beendet = true; }
 
-  /// The places of a row from left to right: a digit, '_' for a blank one, '-' if never written.
-  std::string Reihe(Ziffernreihe reihe, int von, int bis) const {
+  /// The places of a row from left to right: a digit or '_' for a blank one, red ones in brackets.
+  std::string Reihe(Panelreihe reihe, int von, int bis) const {
     std::string text;
     for (int stelle = bis; stelle >= von; --stelle) {
-      const auto fund = ziffern.find({reihe, stelle});
-      text += fund == ziffern.end() ? '-' : "0123456789_"[fund->second.second];
+      const auto &[farbe, ziffer] = ziffern.at({reihe, stelle});
+      const std::string zeichen(1, "0123456789_"[ziffer]);
+      text += farbe == Ziffernfarbe::Rot ? "[" + zeichen + "]" : zeichen;
     }
     return text;
   }

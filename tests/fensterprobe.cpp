@@ -1,13 +1,12 @@
 #include "tests/fensterprobe.h"
 
 #include <QApplication>
+#include <QDir>
 
-#include "persistence/modBeste.h"
 #include "shell/iniMain.h"
 
 Fensterprobe::Fensterprobe() {
   spiel = {};
-  BestenEintrag = false;
   QObject::connect(&takt, &QTimer::timeout, [this] { BedieneFenster(); });
   takt.start(1);
   spielfeld = std::make_unique<frmSpielfeld>();
@@ -39,10 +38,17 @@ void Fensterprobe::BedieneFenster() {
 }
 
 int main(int argc, char *argv[]) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Two screens side by side, of which the second one is twice as dense.
+  const QTemporaryDir ordner;
+  QDir::setCurrent(ordner.path());  // A full path has a colon under Windows, which ends the name.
+  Lege("schirme", R"({"screens": [
+    {"name": "1", "x": 0, "y": 0, "width": 1280, "height": 1024, "dpr": 1},
+    {"name": "2", "x": 1280, "y": 0, "width": 1280, "height": 1024, "dpr": 2}]})");
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=schirme");
   qputenv("LC_ALL", "fr_FR.UTF-8");  // Any language but German.
   testing::InitGoogleTest(&argc, argv);
   QApplication anwendung(argc, argv);
+  QDir::setCurrent(QDir::rootPath());
   RichteAnwendungEin(anwendung);
   return RUN_ALL_TESTS();
 }

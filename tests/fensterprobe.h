@@ -15,8 +15,8 @@
 #include <utility>
 #include <vector>
 
+#include "controls/bild.h"
 #include "core/spiel.h"
-#include "dialogs/bild.h"
 #include "dialogs/frmMsg.h"
 #include "shell/frmSpielfeld.h"
 #include "tests/platform/dateien.h"
@@ -33,12 +33,10 @@ class Fensterprobe : public testing::Test {
   template <class Fenster>
   void Dann(std::function<void(Fenster &)> handlung) {
     geplant.push_back([handlung](QWidget *fenster) {
-      auto *erwartet = qobject_cast<Fenster *>(fenster);
-      EXPECT_NE(erwartet, nullptr) << fenster->metaObject()->className();
-      if (erwartet)
-        handlung(*erwartet);
-      else
-        fenster->close();
+      if (auto *erwartet = qobject_cast<Fenster *>(fenster))
+        return handlung(*erwartet);
+      ADD_FAILURE() << fenster->metaObject()->className();
+      fenster->close();
     });
   }
   /// Answers the next question by a key.
@@ -61,10 +59,11 @@ class Fensterprobe : public testing::Test {
   static QString Text(QWidget &fenster, const QString &name) {
     return Finde<QLabel>(fenster, name)->text();
   }
-  static void ErwarteLagen(QWidget &fenster,
-                           const std::vector<std::pair<const char *, QRect>> &lagen) {
-    for (const auto &[name, lage] : lagen)
-      EXPECT_EQ(Finde<QWidget>(fenster, name)->geometry(), lage) << name;
+  /// Opens cells until the level of a game just begun is lost.
+  void Verliere() {
+    for (int n = 1; n <= kZellen; ++n)
+      Klick("imgSar" + QString::number(n));
+    ASSERT_TRUE(spielfeld->IstSichtbar(Bedienung::cmdWiederholen));
   }
   QString Datei(const QString &name) const { return ordner.path() + "/nachtkammern/" + name; }
 

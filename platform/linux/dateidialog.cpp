@@ -5,6 +5,7 @@
 #include <QFileSystemModel>
 #include <QIdentityProxyModel>
 #include <QLocale>
+#include <QSettings>
 
 namespace {
 
@@ -47,6 +48,8 @@ class DeutscheSpalten : public QIdentityProxyModel {
 }  // namespace
 
 bool ZeigeDateidialog(QFileDialog &dialog) {
+  // Qt would keep a history in the player's configuration. There it finds no place for one.
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   new DeutscheSpalten(dialog);
   return dialog.exec() == QDialog::Accepted;

@@ -1,19 +1,14 @@
+#include "platform/datenwurzel.h"
+
 #include <QDir>
-#include <QStandardPaths>
-
-#include "platform/pfade.h"
-
-namespace {
-
-/// Qt takes the root for the home directory of a user who has none.
-bool HatDatenordner() {
-  return !qEnvironmentVariableIsEmpty("HOME") ||
-         QDir::isAbsolutePath(qEnvironmentVariable("XDG_DATA_HOME"));
-}
-
-}  // namespace
 
 QString Datenwurzel() {
-  const QString wurzel = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  return HatDatenordner() && QDir().mkpath(wurzel) ? wurzel : QString();
+  // Qt would take a relative path as it stands, and so a folder that depends on where the program
+  // was started.
+  const QString heim = qEnvironmentVariable("HOME");
+  QString wurzel = qEnvironmentVariable("XDG_DATA_HOME");
+  if (!QDir::isAbsolutePath(wurzel))
+    wurzel = QDir::isAbsolutePath(heim) ? heim + "/.local/share" : QString();
+  wurzel = QDir::cleanPath(wurzel);
+  return !wurzel.isEmpty() && QDir().mkpath(wurzel) ? wurzel : QString();
 }

@@ -4,6 +4,8 @@
 
 #include <array>
 
+#include "platform/windows/zeichenumwandlung.h"
+
 namespace {
 
 constexpr int kLaengstesZeichen = 8;  ///< Bytes of a character in any ANSI code page, and to spare.
@@ -20,10 +22,10 @@ QString AusCodepage(const QByteArray &bytes) {
 QByteArray InCodepage(char32_t zeichen) {
   const std::wstring text = QString::fromUcs4(&zeichen, 1).toStdWString();
   std::array<char, kLaengstesZeichen> bytes{};
+  const Zeichenumwandlung umwandlung = UmwandlungIn(GetACP());
   BOOL ersetzt = FALSE;
-  // Without this flag a character would become one that merely looks like it.
-  const int anzahl =
-      WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, text.data(), static_cast<int>(text.size()),
-                          bytes.data(), kLaengstesZeichen, "?", &ersetzt);
+  const int anzahl = WideCharToMultiByte(
+      CP_ACP, umwandlung.Flags, text.data(), static_cast<int>(text.size()), bytes.data(),
+      kLaengstesZeichen, umwandlung.Ersatz ? "?" : nullptr, umwandlung.Ersatz ? &ersetzt : nullptr);
   return anzahl <= 0 || ersetzt ? QByteArray("?") : QByteArray(bytes.data(), anzahl);
 }

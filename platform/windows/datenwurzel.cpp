@@ -1,8 +1,8 @@
+#include "platform/datenwurzel.h"
+
 #include <windows.h>
 
 #include <array>
-
-#include "platform/pfade.h"
 
 QString Datenwurzel() {
   std::array<char, 200> ordner{};

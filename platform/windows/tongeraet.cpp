@@ -6,12 +6,16 @@
 
 #include <QDir>
 
-#include "platform/mod_MySound.h"
+Tonmelder &DerTonmelder() {
+  static Tonmelder melder;
+  return melder;
+}
 
 bool SoundGeraetDa() {
   return waveOutGetNumDevs() != 0;
 }
 
 void SpieleWellendatei(const QString &pfad) {
-  sndPlaySoundW(QDir::toNativeSeparators(pfad).toStdWString().c_str(), SND_ASYNC | SND_NODEFAULT);
+  if (SoundGeraetDa())
+    sndPlaySoundW(QDir::toNativeSeparators(pfad).toStdWString().c_str(), SND_ASYNC | SND_NODEFAULT);
 }

@@ -32,11 +32,10 @@ class Spielstand : public Umgebung {
  protected:
   QString pfad = temporaer.filePath("spiel.sar");
 
-  Spielstand() { SetzeSpiel(7, 2900, 450); }
-  static void SetzeSpiel(std::int16_t level, std::int32_t punkte, std::int32_t levelpunkte) {
-    spiel.Level = level;
-    spiel.Punkte = punkte;
-    spiel.Levelpunkte = levelpunkte;
+  Spielstand() {
+    spiel.Level = 7;
+    spiel.Punkte = 2900;
+    spiel.Levelpunkte = 450;
   }
 };
 
@@ -48,7 +47,7 @@ TEST_F(Spielstand, SchreibtByteFuerByte) {
 }
 
 TEST_F(Spielstand, LaedtInEineSaubereSpielphase) {
-  Lege(pfad, "12\n4711\n3");
+  Lege(pfad, "3\n4711\n3");  // In this level no start cell writes over the text.
   const auto phase = {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern};
   for (const Bedienung b : phase)
     ansicht.Zeige(b, true);
@@ -56,9 +55,10 @@ TEST_F(Spielstand, LaedtInEineSaubereSpielphase) {
   ansicht.timer = {{Pfeil::Start, 300}, {Pfeil::Weiter, 400}};
   ansicht.antworten = {kJa};
   LadeGewaehlteDatei(ansicht, pfad);
-  ErwarteMeldung(FrageLaden(13, 3, "4711"));
-  ErwarteSpiel(13, 4711, 0, 3);
-  EXPECT_EQ(spiel.SarantenRest, 76 - 13 - spiel.Startfelder);
+  ErwarteMeldung(FrageLaden(4, 3, "4711"));
+  ErwarteSpiel(4, 4711, 0, 3);
+  EXPECT_EQ(spiel.SarantenRest, 72);
+  EXPECT_TRUE(ansicht.modustext.starts_with("Spielmodus:  Experte"));
   for (const Bedienung b : phase)
     EXPECT_FALSE(ansicht.IstSichtbar(b));
   EXPECT_FALSE(ansicht.speichernErlaubt);
@@ -74,14 +74,17 @@ TEST_F(Spielstand, VorDemJaBleibtDasSpielWieEsWar) {
     ErwarteSpiel(7, 2900, 450, 2);
     EXPECT_EQ(ansicht.timer[Pfeil::Weiter], 300);
   };
-  Pruefe("0\r\n500\r\n1\r\n", FrageLaden(1, 1, "500"));
+  Pruefe(" 000 \r\n500\r\n1\r\n", FrageLaden(1, 1, "500"));
   Pruefe("40\r\n-7\r\n2", FrageLaden(41, 2, "-7"));
   Pruefe("41\r\n2147483647\r\n2\r\nmehr", FrageLaden(42, 2, "2147483647"));
   Pruefe("3\n\x80\n1", FrageLaden(4, 1, "€"));
   const std::map<int, std::vector<QByteArray>> fehler = {
       {5, {"7\r\n3350\r\n"}},
-      {6, {"sieben\r\n1\r\n2\r\n", "7\r\n1\r\nNormal\r\n", QByteArray("7\0\n3350\n2\n", 10)}},
-      {7, {"32767\n1\n2\n", "-1\n1\n2\n", "7\n1\n0\n", "7\n1\n4\n"}},
+      {6,
+       {"sieben\r\n1\r\n2\r\n", "7\r\n1\r\nNormal\r\n", QByteArray("7\0\n3350\n2\n", 10),
+        " \n1\n2\n", "-\n1\n2\n", "1 2\n1\n2\n", "99999999999999999999x\n1\n2\n"}},
+      {7,
+       {"32767\n1\n2\n", "99999999999999999999\n1\n2\n", "-1\n1\n2\n", "7\n1\n0\n", "7\n1\n4\n"}},
       {8, {QByteArray(10 << 20, '7')}}};
   for (const auto &[nummer, dateien] : fehler) {
     for (const QByteArray &bytes : dateien)
@@ -114,6 +117,25 @@ class Beste : public Umgebung {
   }
 };
 
+TEST_F(Beste, NurEinAngenommenerPlatzIstEinEintrag) {
+  const struct {
+    std::int32_t punkte;
+    std::int16_t antwort;
+    Meldung meldung;
+    int platz;
+    bool eintrag;
+  } faelle[] = {{13001, kJa, FrageBesteneintrag(), 4, true},
+                {13000, kJa, MeldungKeinBesteneintrag(), -1, false},
+                {20000, kNein, FrageBesteneintrag(), 0, false}};
+  for (const auto &fall : faelle) {
+    Spiele(fall.punkte, fall.antwort);
+    ErwarteMeldung(fall.meldung);
+    EXPECT_EQ(spiel.Beste.BestenPlatz, fall.platz);
+    EXPECT_EQ(spiel.Beste.BestenEintrag, fall.eintrag);
+    BestenlisteLaden(ansicht);
+  }
+}
+
 TEST_F(Beste, BeschaedigteDateiBleibtUndLaesstWeiterspielen) {
   const QByteArray namen = "A\nB\nC\nD\nE\n";
   const struct {
@@ -138,14 +160,15 @@ TEST_F(Beste, BeschaedigteDateiBleibtUndLaesstWeiterspielen) {
       ErwarteMeldung(MeldungBesteNichtGelesen(fall.nummer), fall.bytes.left(30));
       EXPECT_EQ(spiel.Bestenschwelle, 77);
     }
-    EXPECT_EQ(lstName.size(), fall.namen);
-    EXPECT_EQ(lstPunkte.size(), fall.punkte);
+    EXPECT_EQ(static_cast<int>(spiel.Beste.lstName.size()), fall.namen);
+    EXPECT_EQ(static_cast<int>(spiel.Beste.lstPunkte.size()), fall.punkte);
     EXPECT_EQ(Inhalt(BestenlistePfad()), fall.bytes);
     Spiele(550, kJa);
-    EXPECT_EQ(BestenPlatz, fall.platz) << fall.bytes.left(30).data();
+    EXPECT_EQ(spiel.Beste.BestenPlatz, fall.platz) << fall.bytes.left(30).data();
     BestenlisteSpeichern(ansicht);
     ansicht.meldungen.clear();
     BestenlisteLaden(ansicht);
     EXPECT_TRUE(ansicht.meldungen.empty()) << "a saved list can be loaded";
+    EXPECT_TRUE(!fall.bytes.contains("viele") || spiel.Beste.lstPunkte[2] == "0");
   }
 }

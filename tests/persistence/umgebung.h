@@ -19,8 +19,6 @@ class Umgebung : public testing::Test {
     spiel = {};
     spiel.Datenordner = temporaer.path().toStdString();
     spiel.DatenordnerAktiv = true;
-    lstName.clear();
-    lstPunkte.clear();
   }
   /// Exactly this one message since the last call, word for word.
   void ErwarteMeldung(const Meldung &erwartet, const QByteArray &fall = "") {

@@ -3,16 +3,23 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "platform/pfade.h"
+#include "platform/datenwurzel.h"
 #include "tests/platform/dateien.h"
 
 TEST(Datenwurzel, NachUmgebung) {
   const QTemporaryDir ordner;
   Lege(ordner.filePath("datei"), "");
   const QByteArray heim = ordner.path().toUtf8();
-  const std::array<QByteArray, 3> faelle[] = {
+  const struct {
+    QByteArray home, xdg, wurzel;
+  } faelle[] = {
       {heim, "", heim + "/.local/share"},  // Created on the way.
-      {"", heim + "/xdg", heim + "/xdg"}, {"", "", ""}, {"", "kein/voller/pfad", ""},
+      {heim, "kein/voller/pfad", heim + "/.local/share"},
+      {"", heim + "/xdg", heim + "/xdg"},
+      {"kein/voller/pfad", heim + "/xdg", heim + "/xdg"},
+      {"", "", ""},
+      {"", "kein/voller/pfad", ""},
+      {"kein/voller/pfad", "", ""},
       {heim + "/datei/heim", "", ""},  // A home directory that cannot exist.
   };
   for (const auto &[home, xdg, wurzel] : faelle) {

@@ -3,11 +3,11 @@
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <map>
 
 #include "platform/modExistiertDatei.h"
 #include "platform/pfade.h"
 #include "platform/textdatei.h"
+#include "platform/windows/zeichenumwandlung.h"
 #include "tests/platform/dateien.h"
 
 class Platform : public testing::Test {
@@ -64,6 +64,13 @@ TEST_F(Platform, Zeilenenden) {
   }
 }
 
+// Windows refuses every character if it is asked for more than the code page can.
+TEST_F(Platform, Utf8KenntKeinErsatzzeichen) {
+  EXPECT_TRUE(UmwandlungIn(1252).Ersatz);
+  EXPECT_FALSE(UmwandlungIn(kUtf8).Ersatz);
+  EXPECT_EQ(UmwandlungIn(kUtf8).Flags & ~0x80UL, 0UL);  // All that it allows is to fail.
+}
+
 TEST_F(Platform, CodepageHinUndZurueck) {
   QByteArray alle;
   for (int byte = 0; byte < 256; ++byte)
@@ -76,21 +83,4 @@ TEST_F(Platform, CodepageHinUndZurueck) {
   EXPECT_EQ(Inhalt(pfad), alle + "\r\n");
   SchreibeZeilen(pfad, {"Jörg € »ß« 😀 Ł", "a\r\nb", ""});
   EXPECT_EQ(Inhalt(pfad), "J\xF6rg \x80 \xBB\xDF\xAB ? ?\r\na??b\r\n\r\n");
-}
-
-TEST_F(Platform, NurGanzeZahlenImBereichSindZahlen) {
-  std::int16_t wert = 99;
-  const std::map<Dateifehler, QStringList> faelle = {
-      {Dateifehler::Zahlenbereich, {"32768", "99999999999999999999"}},
-      {Dateifehler::KeineZahl,
-       {"99999999999999999999x", " ", "-", "1 2", "1,5", QString("5") + QChar(0), "５"}}};
-  for (const auto &[fehler, texte] : faelle) {
-    for (const QString &text : texte)
-      EXPECT_EQ(LiesZahl(text, wert), fehler) << qPrintable(text);
-  }
-  EXPECT_EQ(wert, 99);
-  for (const auto &[text, zahl] : std::map<QString, int>{{"-32768", -32768}, {"  007 ", 7}}) {
-    EXPECT_EQ(LiesZahl(text, wert), Dateifehler::Keiner);
-    EXPECT_EQ(wert, zahl);
-  }
 }

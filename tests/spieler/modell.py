@@ -7,12 +7,8 @@ from pathlib import Path
 MODI = {1: "Einfach", 2: "Normal", 3: "Experte"}
 BONUS = {1: 400, 2: 450, 3: 500}
 JE_LEVEL = {1: 300, 2: 300, 3: 350}
-# Up to this level: opened gems by mode (None: the level minus 5), and marked free cells.
-STARTFELDER = ((5, (8, 6, 0)), (20, (8, 6, None)), (24, (14, 12, 12)), (29, (11, 9, 9)),
-               (34, (9, 7, 7)), (40, (7, 5, 5)))
-FREIFELDER = ((3, 2), (8, 4), (13, 6), (18, 8), (30, 10), (40, 12))
 VERDECKT, MARKIERT, FEHLER, SARANT = "verdeckt", "markiert", "Fehler", "Sarant"
-FRAGE, FALSCH, BLIP, START, TADA = "FRAGE.WAV", "FEHLER.WAV", "BLIP.WAV", "START.WAV", "TADA.WAV"
+BLIP, FALSCH, TADA = "BLIP.WAV", "FEHLER.WAV", "TADA.WAV"
 BESTE = [["Niemand", 15000 - 500 * i] for i in range(5)]
 
 FELD = [(z, s) for z in range(1, 11) for s in range(1, 11)]
@@ -20,13 +16,10 @@ FELD = [(z, s) for z in range(1, 11) for s in range(1, 11)]
 LINIEN = {("Spalte", s): [(z, s) for z in range(10, 0, -1)] for s in range(1, 11)}
 LINIEN |= {("Zeile", z): [(z, s) for s in range(10, 0, -1)] for z in range(1, 11)}
 
-def laeufe(muster):
-    return tuple(len(list(gruppe)) for voll, gruppe in groupby(muster) if voll)
-
-
+# The fillings of a line by the lengths of their runs.
 MUSTER = defaultdict(list)
 for _muster in product((False, True), repeat=10):
-    MUSTER[laeufe(_muster)].append(_muster)
+    MUSTER[tuple(len(list(lauf)) for voll, lauf in groupby(_muster) if voll)].append(_muster)
 
 
 def lies_meldungen():
@@ -39,10 +32,6 @@ def lies_meldungen():
 MELDUNGEN = dict(lies_meldungen())
 
 
-def stufe(tabelle, level):
-    return next(wert for bis, wert in tabelle if level <= bis)
-
-
 def zeilen(*werte):
     return "".join(f"{wert}\r\n" for wert in werte).encode("cp1252")
 
@@ -51,11 +40,22 @@ def liste_als_datei(liste):
     return zeilen(*(name for name, _ in liste), *(punkte for _, punkte in liste))
 
 
+class Widerspruch(Exception):
+    """What is shown contradicts itself."""
+
+
 class Brett:
     """What the numbers and the opened cells tell about one board."""
 
-    def __init__(self, zahlen):
-        self.laeufe = {linie: tuple(zahlen.get(linie, {}).values()) for linie in LINIEN}
+    def __init__(self, zahlen, anzahl):
+        for art in "Spalte", "Zeile":
+            summe = sum(sum(orte.values()) for linie, orte in zahlen.items() if linie[0] == art)
+            if summe != anzahl:
+                raise Widerspruch(f"Zahlen der {art}n ergeben {summe} statt {anzahl}")
+        if any(list(orte) != list(range(1, len(orte) + 1)) for orte in zahlen.values()):
+            raise Widerspruch("Lücke zwischen Zahlen")
+        self.laeufe = {linie: tuple(zahlen.get(linie, {}).values()) * (anzahl > 0)
+                       for linie in LINIEN}
         self.wissen = {}
         self.schliesse(LINIEN)
 
@@ -72,7 +72,7 @@ class Brett:
             linie = offen.pop()
             deutungen = self.deutungen(linie)
             if not deutungen:
-                raise ValueError(f"{linie} {self.laeufe[linie]} passt nicht zum Brett")
+                raise Widerspruch(f"{linie} {self.laeufe[linie]} passt nicht zum Brett")
             for zelle, werte in zip(LINIEN[linie], zip(*deutungen)):
                 if zelle not in self.wissen and len(set(werte)) == 1:
                     self.wissen[zelle] = werte[0]
@@ -80,19 +80,16 @@ class Brett:
 
     def lerne(self, zelle, ist_sarant):
         if self.wissen.get(zelle, ist_sarant) != ist_sarant:
-            raise ValueError(f"{zelle} ist gegen die Zahlen {ist_sarant}")
+            raise Widerspruch(f"{zelle} ist gegen die Zahlen {ist_sarant}")
         self.wissen[zelle] = ist_sarant
         self.schliesse([("Zeile", zelle[0]), ("Spalte", zelle[1])])
 
     def lohnendste(self):
         """The unknown cell that most likely holds a gem; None if the whole board is known."""
-        def anteil(zelle, linie):
-            stelle = LINIEN[linie].index(zelle)
-            deutungen = self.deutungen(linie)
-            return sum(muster[stelle] for muster in deutungen) / len(deutungen)
-        offen = [zelle for zelle in FELD if zelle not in self.wissen]
-        return max(offen, default=None, key=lambda zelle: anteil(zelle, ("Zeile", zelle[0]))
-                   + anteil(zelle, ("Spalte", zelle[1])))
+        def aussicht(zelle):
+            deutungen = self.deutungen(("Zeile", zelle[0]))
+            return sum(muster[10 - zelle[1]] for muster in deutungen) / len(deutungen)
+        return max((z for z in FELD if z not in self.wissen), default=None, key=aussicht)
 
 
 class Modell:
@@ -106,46 +103,42 @@ class Modell:
         self.ton = ton
         self.laden = any(name.endswith(".sar") for name in dateien)
         self.phase = "wartet"
-        self.level = self.punkte = self.levelpunkte = self.fehler = 0
-        self.anzahl = 75
+        self.level = self.punkte = self.levelpunkte = 0
         self.bester = False
         self.text = "Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\""
         self.kacheln = dict.fromkeys(FELD, VERDECKT)
         self.zahlen = {linie: dict.fromkeys(range(1, 6), 0) for linie in LINIEN}
         self.brett = None
-        self.zeige_status()
 
-    def zeige_status(self):
-        self.levelanzeige = "leer"
-        if 0 <= self.punkte <= 99999:
-            self.punktanzeige = str(self.punkte)
-        else:
-            self.punktanzeige = self.punktanzeige[-1:]  # The units place keeps what it showed.
+    def anzahl(self):
+        return 76 - max(self.level, 1)
+
+    def zahl_der(self, kachel):
+        return list(self.kacheln.values()).count(kachel)
 
     def rest(self):
-        opened = list(self.kacheln.values()).count(SARANT)
-        return self.anzahl - opened if self.level else 0
+        return self.anzahl() - self.zahl_der(SARANT) if self.level else 0
 
     def knoepfe(self):
-        namen = {"Hilfe", "Info", "Einstellungen", "Neues Spiel", "Beenden"}
         wenn = {"Spiel laden": self.laden, "Spiel speichern": self.phase == "gewonnen",
                 "Nächster Level": self.phase == "gewonnen", "Wiederholen": self.phase == "verloren",
                 "Bester Spieler": self.bester}
-        namen |= {name for name, sichtbar in wenn.items() if sichtbar}
-        if self.phase == "wartet":
-            namen |= {name + "*" * (modus == self.modus) for modus, name in MODI.items()}
-        return namen
+        wenn |= {name + "*" * (modus == self.modus): self.phase == "wartet"
+                 for modus, name in MODI.items()}
+        return {"Hilfe", "Info", "Einstellungen", "Neues Spiel", "Beenden",
+                *(name for name, sichtbar in wenn.items() if sichtbar)}
 
     def bild(self):
-        tafel = {"Punkte": self.punktanzeige or "leer", "Levelpunkte": self.levelanzeige,
-                 "Fehlversuche": str(self.fehler), "noch offen": str(self.rest()),
+        tafel = {"Punkte": str(self.punkte), "Levelpunkte":
+                 str(self.levelpunkte or "leer").replace("-", "minus "),
+                 "Fehlversuche": str(self.zahl_der(FEHLER)), "noch offen": str(self.rest()),
                  "Level": str(self.level)}
         return {"kacheln": self.kacheln, "zahlen": self.zahlen, "tafel": tafel,
                 "texte": [self.text], "knoepfe": self.knoepfe(), "dateien": self.dateien}
 
     def moduszeile(self, leerzeichen=3):
         return (f"Spielmodus:{' ' * leerzeichen}{MODI[self.modus]}\n"
-                f"Es sind {self.anzahl} Saranten auf dem Spielfeld.")
+                f"Es sind {self.anzahl()} Saranten auf dem Spielfeld.")
 
     # What happens.
 
@@ -156,7 +149,7 @@ class Modell:
 
     def neues_spiel(self):
         self.text = self.moduszeile(2)
-        self.punkte, self.level, self.anzahl = 500, 0, 75
+        self.level, self.punkte = 0, 500
         return self.beginne_level()
 
     def spiel_ab(self, uebersprungen, modus):
@@ -167,8 +160,9 @@ class Modell:
         return self.beginne_level()
 
     def lade(self, level, punkte, modus):
-        self.level, self.punkte, self.modus = level, punkte, modus
+        self.modus = modus
         self.text = self.moduszeile(2)
+        self.level, self.punkte = level, punkte
         return self.beginne_level()
 
     def naechster_level(self):
@@ -178,7 +172,6 @@ class Modell:
 
     def beginne_level(self):
         self.level += 1
-        self.anzahl = 76 - self.level
         self.brett = None
         return self.beginne_spiel()
 
@@ -188,40 +181,26 @@ class Modell:
 
     def beginne_spiel(self):
         """The cells that are opened and marked now are drawn; see `uebernimm`."""
-        self.phase = "spielt"
-        self.fehler = self.levelpunkte = 0
-        self.kacheln = None
-        if self.startfelder():
-            self.text = self.moduszeile()
-            return BLIP
-        return None
-
-    def startfelder(self):
-        felder = stufe(STARTFELDER, self.level)[self.modus - 1]
-        return self.level - 5 if felder is None else felder
+        self.phase, self.levelpunkte, self.kacheln = "spielt", 0, None
+        if self.modus == 3 and self.level <= 5:  # Nothing is opened.
+            return None
+        self.text = self.moduszeile()
+        return BLIP
 
     def uebernimm(self, bild):
-        """Takes over what chance has drawn, if the rules allow it. Returns what they forbid."""
-        kacheln, zahlen = bild["kacheln"], bild["zahlen"]
-        gezogen = list(kacheln.values())
-        erwartet = {SARANT: self.startfelder(), MARKIERT: stufe(FREIFELDER, self.level), FEHLER: 0}
-        for kachel, anzahl in erwartet.items():
-            if gezogen.count(kachel) != anzahl:
-                return f"{gezogen.count(kachel)} Zellen {kachel} statt {anzahl}"
+        """Takes over what chance has drawn.
+
+        @exception Widerspruch the rules forbid it
+        """
+        if FEHLER in bild["kacheln"].values():
+            raise Widerspruch("Das Level beginnt mit einem Fehler")
         if self.brett is None:
-            for art in "Spalte", "Zeile":
-                summe = sum(sum(orte.values()) for linie, orte in zahlen.items() if linie[0] == art)
-                if summe != self.anzahl:
-                    return f"Zahlen der {art}n ergeben {summe} statt {self.anzahl}"
-            if any(list(orte) != list(range(1, len(orte) + 1)) for orte in zahlen.values()):
-                return "Lücke zwischen Zahlen"
-            self.brett, self.zahlen = Brett(zahlen), zahlen
-        self.kacheln = kacheln
-        for zelle, kachel in kacheln.items():
+            self.brett = Brett(bild["zahlen"], self.anzahl())
+            self.zahlen = bild["zahlen"]
+        for zelle, kachel in bild["kacheln"].items():
             if kachel != VERDECKT:
                 self.brett.lerne(zelle, kachel == SARANT)
-        self.zeige_status()
-        return None
+        self.kacheln = bild["kacheln"]
 
     def klicke_links(self, zelle):
         """@pre The board knows the cell."""
@@ -230,25 +209,20 @@ class Modell:
         self.text = self.moduszeile()
         ist_sarant = self.brett.wissen[zelle]
         self.kacheln[zelle] = SARANT if ist_sarant else FEHLER
-        self.fehler = list(self.kacheln.values()).count(FEHLER)
-        self.zeige_status()
-        if self.fehler == 2:
-            self.phase, self.levelpunkte, self.levelanzeige = "verloren", -100, "100"
+        if self.zahl_der(FEHLER) == 2:
+            self.phase, self.levelpunkte = "verloren", -100
             self.text = "Klicken Sie auf »Wiederholen«"
         elif self.rest() == 0:
             self.phase, self.levelpunkte = "gewonnen", BONUS[self.modus]
-            self.levelanzeige = str(self.levelpunkte)
-            self.punktanzeige = self.punktanzeige if self.punkte > 0 else ""
             self.text = "Klicken Sie auf »Nächster Level«"
             return TADA
         return BLIP if ist_sarant else FALSCH
 
     def klicke_rechts(self, zelle):
-        if self.phase != "spielt":
-            return
-        self.text = self.moduszeile()
-        getauscht = {VERDECKT: MARKIERT, MARKIERT: VERDECKT}
-        self.kacheln[zelle] = getauscht.get(self.kacheln[zelle], self.kacheln[zelle])
+        if self.phase == "spielt":
+            self.text = self.moduszeile()
+            getauscht = {VERDECKT: MARKIERT, MARKIERT: VERDECKT}
+            self.kacheln[zelle] = getauscht.get(self.kacheln[zelle], self.kacheln[zelle])
 
     def speichere(self, name):
         self.dateien[name] = zeilen(self.level, self.punkte + self.levelpunkte, self.modus)
@@ -262,5 +236,5 @@ class Modell:
 
     def trage_ein(self, name):
         liste = self.liste()
-        liste.insert(self.platz(), [name or "Spieler", self.punkte])
+        liste.insert(self.platz(), [name, self.punkte])
         self.dateien["sarant.txt"] = liste_als_datei(liste[:5])

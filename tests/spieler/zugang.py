@@ -1,93 +1,64 @@
 """Plays without a mouse: a level through the accessibility bus alone, one with the keyboard alone,
 and shows that the same keys do nothing while no assistive technology is active.
 
-usage: tests/spieler/buehne zugang.py PROGRAM
+usage: [SCHIRM=weston] tests/spieler/buehne zugang.py PROGRAM     weston has the bus alone
 """
 
-import spieler
-from spieler import *
+import os
+import subprocess
+import sys
+import time
+
+from hand import Bushand, Maushand, Tastenhand
+from modell import VERDECKT
+from ohr import Ohr
+from sinne import TITEL, ZELLE, Abweichung, warte
+from spieler import LISTE, Spieler
 
 
-def druecke_ueber_bus(element, knopf=1):
-    """Presses by the action that the element offers for a mouse button."""
-    aktionen = element.queryAction()
-    gesucht = "Press" if knopf == 1 else "ShowMenu"
-    aktionen.doAction([aktionen.getName(i) for i in range(aktionen.nActions)].index(gesucht))
+def spiele_level(spiel):
+    spiel.schritt("Neues Spiel", spiel.modell.neues_spiel())
+    zelle = spiel.zelle_mit(VERDECKT)
+    for _ in "Marke", "keine Marke":
+        spiel.markiere(zelle)
+    spiel.gewinne()
+    spiel.schritt("Nächster Level", spiel.modell.naechster_level())
 
 
-class Tastenhand:
-    """Goes to an element with Tab and the arrow keys and presses it with the space bar."""
-
-    def __init__(self):
-        self.programm = None
-
-    def fokus(self):
-        elemente = list(alle(self.programm.hauptfenster())) + list(self.programm.feld)
-        return next((e for e in elemente if e.getState().contains(pyatspi.STATE_FOCUSED)), None)
-
-    def gehe(self, name, passt):
-        """Presses a key until the focus is where it should be."""
-        def gegangen():
-            fokus = self.fokus()
-            if fokus is not None and passt(fokus):
-                return True
-            taste(name)
-            return False
-        warte(gegangen, f"{name} führt nicht zum Ziel")
-
-    def klicke(self, element, knopf=1):
-        if treffer := ZELLE.match(element.name):
-            self.gehe("Tab", lambda e: ZELLE.match(e.name))
-            for teil, zurueck, vor in (1, "Up", "Down"), (2, "Left", "Right"):
-                ziel, ort = int(treffer[teil]), int(ZELLE.match(self.fokus().name)[teil])
-                for _ in range(abs(ziel - ort)):
-                    taste(vor if ziel > ort else zurueck)
-            warte(lambda: self.fokus() == element, "Fokus auf der Zelle")
-        else:
-            self.gehe("Tab", lambda e: e.getRole() in KNOPFROLLEN and not ZELLE.match(e.name))
-            taste(*["Up"] * 12)
-            self.gehe("Down", lambda e: e == element)
-        taste("space" if knopf == 1 else "shift+space")
-
-    def lies_linien(self, spiel):
-        """Z and S tell the numbers of the row and of the column of the focused cell."""
-        self.gehe("Tab", lambda e: ZELLE.match(e.name))
-        zeile, spalte, _ = ZELLE.match(self.fokus().name).groups()
-        for kuerzel, art, nummer in ("z", "Zeile", zeile), ("s", "Spalte", spalte):
-            zahlen = spiel.programm.lies()["zahlen"].get((art, int(nummer)), {})
-            soll = ", ".join(str(zahlen[k]) for k in sorted(zahlen, reverse=True)) or "leer"
-            taste(kuerzel)
-            warte(lambda: self.fokus().description == f"{art} {nummer}: {soll}", f"{art} {nummer}")
+def spiele_ueber_bus(spiel):
+    spiel.frage("Info", "Info", "OK")
+    spiel.lies_liste()
+    spiel.druecke("OK", titel=LISTE)
+    spiel.warte_bis_zu(LISTE)
+    spiele_level(spiel)
+    spiel.frage("Neues Spiel", "neu", "Nein")
+    spiel.beende()
 
 
-def spiele_level(pfad, ohr, klicke, vorbereitung=lambda spiel: None):
-    spieler.klicke = klicke
-    with Spieler(pfad, ohr) as spiel:
-        vorbereitung(spiel)
-        spiel.schritt("Neues Spiel", spiel.modell.neues_spiel())
-        zelle = spiel.zelle_mit(VERDECKT)
-        for _ in "Marke", "keine Marke":
-            spiel.markiere(zelle)
-        spiel.gewinne()
-        spiel.schritt("Nächster Level", spiel.modell.naechster_level())
-        return spiel
+def lies_linien(spiel):
+    """Z and S tell the numbers of the row and of the column of the focused cell."""
+    app = spiel.programm.app
+    zelle = ZELLE.match(spiel.hand.gehe(app, "Tab", lambda e: ZELLE.match(e.name)).name)
+    for kuerzel, linie in ("z", ("Zeile", int(zelle[1]))), ("s", ("Spalte", int(zelle[2]))):
+        zahlen = [str(zahl) for zahl in spiel.modell.zahlen.get(linie, {}).values()]
+        ansage = f"{linie[0]} {linie[1]}: {', '.join(reversed(zahlen)) or 'leer'}"
+        spiel.hand.taste(kuerzel)
+        warte(lambda: spiel.hand.fokus(app).description == ansage, ansage)
 
 
 def tasten_tun_nichts(pfad):
     """Without assistive technology: the screen stays as it is whatever is typed."""
     def schirm():
-        return subprocess.run(["import", "-window", "root", "rgb:-"], stdout=subprocess.PIPE).stdout
-    umgebung = os.environ | {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/fehlt"}
-    prozess = subprocess.Popen([pfad], env=umgebung)
+        time.sleep(1)
+        return subprocess.check_output(["import", "-window", "root", "rgb:-"])
+    prozess = subprocess.Popen([pfad], env=os.environ | {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/"})
     try:
-        suche = "xdotool search --onlyvisible --name".split() + [TITEL]
-        warte(lambda: subprocess.run(suche, stdout=subprocess.DEVNULL).returncode == 0, "Fenster")
+        subprocess.check_output(["xdotool", "search", "--sync", "--onlyvisible", "--name", TITEL])
+        taste = Maushand().taste
         time.sleep(1)
         taste("ctrl+n")  # A menu shortcut works, and ends the blinking of the arrow.
-        time.sleep(1)
         vorher = schirm()
-        taste("Tab", "Tab", "Down", "Right", "space", "shift+space", "z", "s", "shift+Tab", "Return")
-        time.sleep(0.5)
+        taste(*"Tab Tab Down Right space shift+space z s shift+Tab Return".split())
         if schirm() != vorher:
             raise Abweichung("eine Taste hat ohne Hilfsmittel gewirkt")
     finally:
@@ -95,19 +66,17 @@ def tasten_tun_nichts(pfad):
         prozess.wait()
 
 
-def main():
-    pfad, ohr = sys.argv[1], Ohr()
-    tasten_tun_nichts(pfad)
-    spiele_level(pfad, ohr, druecke_ueber_bus)
-    hand = Tastenhand()
-
-    def bereite_vor(spiel):
-        hand.programm = spiel.programm
-        hand.lies_linien(spiel)
-
-    spiele_level(pfad, ohr, hand.klicke, bereite_vor)
+def main(pfad):
+    ohr = Ohr(pfad)
+    with Spieler(pfad, ohr, Bushand()) as spiel:
+        spiele_ueber_bus(spiel)
+    if "DISPLAY" in os.environ:
+        with Spieler(pfad, ohr, Tastenhand()) as spiel:
+            lies_linien(spiel)
+            spiele_level(spiel)
+        tasten_tun_nichts(pfad)
     ohr.schliesse()
 
 
 if __name__ == "__main__":
-    main()
+    main(sys.argv[1])

@@ -9,7 +9,7 @@ DESTDIR=$wurzel cmake --install "$1" --prefix /usr >/dev/null
 cd "$wurzel/usr"
 
 kennung=example.glanzgrube.Glanzgrube
-erwartet=(bin/glanzgrube "lib/$(g++ -print-multiarch)/glanzgrube/libklang.so"
+erwartet=(bin/glanzgrube
   share/man/man6/glanzgrube.6.gz share/man/de/man6/glanzgrube.6.gz
   share/doc/glanzgrube/copyright share/doc/glanzgrube/changelog.gz
   share/glanzgrube/{WHOOSH,FRAGE,FEHLER,BLIP,START,TADA}.WAV

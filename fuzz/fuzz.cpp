@@ -45,14 +45,15 @@ void Verlange(bool bedingung) {
   BestenlisteLaden(ansicht);
   spiel.Punkte = 13600;
   BestenlistePruefen(ansicht);
-  if (!BestenEintrag)
+  if (!spiel.Beste.BestenEintrag)
     return;
   BestenlisteSpeichern(ansicht);
-  const QStringList liste = lstName + lstPunkte;
+  const Bestenliste liste = spiel.Beste;
   ansicht.meldungen.clear();
   BestenlisteLaden(ansicht);
   // A list that was saved can be loaded and says the same.
-  Verlange(ansicht.meldungen.empty() && lstName + lstPunkte == liste);
+  Verlange(ansicht.meldungen.empty() && spiel.Beste.lstName == liste.lstName &&
+           spiel.Beste.lstPunkte == liste.lstPunkte);
 }
 
 }  // namespace
@@ -62,8 +63,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *daten, std::size_t gro
   spiel = {};
   spiel.Datenordner = ordner.path().toStdString();
   spiel.DatenordnerAktiv = true;
-  lstName.clear();
-  lstPunkte.clear();
   ansicht = {};
   ansicht.antworten = {kJa};
   FORMAT({reinterpret_cast<const char *>(daten), static_cast<qsizetype>(groesse)});

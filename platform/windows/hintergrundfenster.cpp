@@ -1,8 +1,12 @@
-#include "platform/taskleiste.h"
+#include "platform/hintergrundfenster.h"
 
 #include <windows.h>
 
 #include <QWindow>
+
+bool StapeltFenster() {
+  return true;
+}
 
 void OhneTaskleiste(QWindow *fenster) {
   auto *hwnd = reinterpret_cast<HWND>(fenster->winId());

@@ -7,7 +7,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "dialogs/masse.h"
+#include "controls/masse.h"
 
 class QPainter;
 
@@ -15,55 +15,68 @@ class QPainter;
 /// never scaled.
 void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild);
 
-/// One row of a window's table of pictures.
-struct Bildzeile {
+/// One entry of a window's table of pictures.
+struct Bildeintrag {
   const char *name;     ///< The control's name.
   Twips lage;           ///< Where it stands; a picture is never scaled to this size.
   const char *bild;     ///< Picture of the catalogue; empty for a hot spot.
   const char *tooltip;  ///< Empty for none.
   const char *ansage;   ///< What a screen reader says.
   QAccessible::Role rolle = QAccessible::Button;
+  const char *gedrueckt = "";  ///< Picture while a mouse button is held on it, if another.
 };
 
 class Bild : public QWidget {
   Q_OBJECT
 
  public:
-  explicit Bild(QWidget *eltern);
-  Bild(QWidget *eltern, const Bildzeile &zeile);
+  Bild(QWidget *eltern, const Bildeintrag &eintrag);
 
-  /// Shows a shared picture, which must outlive the control; null shows nothing.
-  void SetzeBild(const QPixmap *bild);
-  const QPixmap *GezeigtesBild() const { return bild_; }
+  /// Shows a picture of the catalogue; an empty name shows nothing.
+  void SetzeBild(const QString &name);
+  /// The name of the picture that is shown.
+  virtual QString Bildname() const;
+
+  /// Decodes its pictures, so that their first look costs nothing.
+  void LadeVor() const;
 
   /// What a left click does; gives the control the hand pointer.
   void SetzeKlick(std::function<void()> klick);
-  /// What the press and the release of any mouse button do.
+  /// What the press of any mouse button does.
   void SetzeDruck(std::function<void(Qt::MouseButton)> druck);
-  void SetzeLoslassen(std::function<void(Qt::MouseButton)> loslassen);
 
-  /// What a screen reader says, and as what it presents the control.
-  void SetzeAnsage(const QString &ansage, QAccessible::Role rolle);
   virtual QString Ansage() const { return accessibleName(); }
   QAccessible::Role Rolle() const { return rolle_; }
   bool IstBedienbar() const { return klick_ || druck_; }
   /// The right mouse button has a meaning of its own.
-  bool IstZweitastig() const { return druck_ && !klick_; }
+  bool IstZweitastig() const { return static_cast<bool>(druck_); }
   bool IstGewaehlt() const { return gewaehlt_; }
   void SetzeGewaehlt(bool gewaehlt) { gewaehlt_ = gewaehlt; }
-  /// Acts as if a mouse button had been pressed and released on the control.
+
+  /// Presses and releases a mouse button on the control, for those who have no mouse. Does nothing
+  /// where a mouse could not: on a control that is hidden or behind a window that waits.
   void Bediene(Qt::MouseButton taste);
 
  protected:
   void paintEvent(QPaintEvent *ereignis) override;
   void mousePressEvent(QMouseEvent *ereignis) override;
   void mouseReleaseEvent(QMouseEvent *ereignis) override;
+  bool event(QEvent *ereignis) override;
+
+  /// Paints anew and tells assistive technology that the name has changed.
+  void Aktualisiere();
 
  private:
-  const QPixmap *bild_ = nullptr;
+  bool IstErreichbar() const;
+  void Druecke(Qt::MouseButton taste);
+  void LasseLos(Qt::MouseButton taste, bool darueber);
+  void ZeigeGedrueckt(bool gedrueckt);
+
+  QString bild_;
+  QString gedruecktesBild_;  ///< Empty if a press does not show.
+  bool gedrueckt_ = false;
   std::function<void()> klick_;
   std::function<void(Qt::MouseButton)> druck_;
-  std::function<void(Qt::MouseButton)> loslassen_;
-  QAccessible::Role rolle_ = QAccessible::Graphic;
+  QAccessible::Role rolle_;
   bool gewaehlt_ = false;
 };

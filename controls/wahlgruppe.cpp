@@ -1,19 +1,19 @@
-#include "dialogs/wahlgruppe.h"
+#include "controls/wahlgruppe.h"
 
-#include "dialogs/bild.h"
+#include "controls/bild.h"
 
-Wahlgruppe::Wahlgruppe(QWidget *eltern, const Wahlart &art, const std::vector<Zeile> &zeilen,
+Wahlgruppe::Wahlgruppe(QWidget *eltern, const Wahlart &art,
+                       const std::vector<Wahleintrag> &eintraege,
                        const std::function<void(int)> &klick)
     : ersterIndex_(art.ersterIndex) {
   int index = art.ersterIndex;
-  for (const Zeile &zeile : zeilen) {
+  for (const Wahleintrag &eintrag : eintraege) {
     const auto NeuesBild = [&](const char *wahl, const char *tooltip) {
       const QByteArray zusatz = wahl + QByteArray::number(index);
       const QByteArray name = art.name + zusatz;
       const QByteArray bild = art.bild + zusatz;
-      const QByteArray ansage = zeile.ansage.toUtf8();
-      return new Bild(eltern, {name.constData(), zeile.lage, bild.constData(), tooltip,
-                               ansage.constData(), QAccessible::RadioButton});
+      return new Bild(eltern, {name.constData(), eintrag.lage, bild.constData(), tooltip,
+                               eintrag.ansage, QAccessible::RadioButton});
     };
     const Paar paar{NeuesBild("", art.tooltip), NeuesBild("Wahl", art.tooltipWahl)};
     paar.normal->SetzeKlick([klick, index] { klick(index); });

@@ -3,11 +3,11 @@
 /// chosen look at the same place that takes none; exactly one of the two is visible.
 #pragma once
 
-#include <QString>
+#include <QWidget>
 #include <functional>
 #include <vector>
 
-#include "dialogs/masse.h"
+#include "controls/masse.h"
 
 class Bild;
 
@@ -26,13 +26,13 @@ inline constexpr Wahlart kModuswahl{"imgModus", "modus", 1, "Spielmodus wählen"
 
 class Wahlgruppe {
  public:
-  struct Zeile {
+  struct Wahleintrag {
     Twips lage;
-    QString ansage;
+    const char *ansage;
   };
 
   /// @param klick   is given the index of the clicked face, counted as in the control array.
-  Wahlgruppe(QWidget *eltern, const Wahlart &art, const std::vector<Zeile> &zeilen,
+  Wahlgruppe(QWidget *eltern, const Wahlart &art, const std::vector<Wahleintrag> &eintraege,
              const std::function<void(int)> &klick);
 
   /// Gives one face the chosen look and all others the normal one.

@@ -1,4 +1,4 @@
-#include "platform/taskleiste.h"
+#include "platform/hintergrundfenster.h"
 
 #include <QtGui/qguiapplication_platform.h>
 #include <xcb/xcb.h>
@@ -21,6 +21,10 @@ xcb_atom_t Atom(xcb_connection_t *verbindung, std::string_view name) {
 }
 
 }  // namespace
+
+bool StapeltFenster() {
+  return !QGuiApplication::platformName().startsWith("wayland");
+}
 
 void OhneTaskleiste(QWindow *fenster) {
   auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();

@@ -1,0 +1,80 @@
+#include "controls/beschriftung.h"
+
+#include <QFontMetrics>
+
+#include "palette.h"
+
+namespace {
+
+constexpr double kKleinsteSchrift = 0.85;  ///< Of the full size; smaller letters are hard to read.
+
+}  // namespace
+
+QPalette Steinpalette() {
+  QPalette palette{QColor(kStein)};
+  for (const auto grund : {QPalette::Base, QPalette::ToolTipBase})
+    palette.setColor(grund, QColor(kPapierweiss));
+  for (const auto schrift :
+       {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::ToolTipText})
+    palette.setColor(QPalette::Active, schrift, QColor(kSchriftfarbe));
+  palette.setColor(QPalette::Highlight, QColor(kAuswahl));
+  palette.setColor(QPalette::HighlightedText, QColor(kPapierweiss));
+  return palette;
+}
+
+QFont Schrift(double punkt, bool fett) {
+  QFont schrift(QStringList{"Arial", "Liberation Sans"});  // Letters of the same widths.
+  schrift.setPixelSize(static_cast<int>(Massstab() * punkt * 96 / 72));
+  schrift.setBold(fett);
+  return schrift;
+}
+
+Beschriftung::Beschriftung(QWidget *eltern, const Texteintrag &eintrag)
+    : QLabel(eltern), schrift_(Schrift(eintrag.punkt, eintrag.fett)) {
+  setObjectName(eintrag.name);
+  setGeometry(Rechteck(eintrag.lage));
+  setTextFormat(Qt::PlainText);
+  setAlignment(eintrag.ausrichtung);
+  setWordWrap(eintrag.umbruch);
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  SetzeFarbe(eintrag.farbe);
+  ZeigeText(eintrag.text);
+}
+
+void Beschriftung::ZeigeText(const std::string &text) {
+  const QString ganz = QString::fromStdString(text).remove('\r');
+  const int kleinste = static_cast<int>(schrift_.pixelSize() * kKleinsteSchrift);
+  QFont schrift = schrift_;
+  setFont(schrift);
+  while (!Passt(ganz) && schrift.pixelSize() > kleinste) {
+    schrift.setPixelSize(schrift.pixelSize() - 1);
+    setFont(schrift);
+  }
+  QStringList zeilen = ganz.split('\n');
+  if (!wordWrap()) {
+    for (QString &zeile : zeilen)
+      zeile = fontMetrics().elidedText(zeile, Qt::ElideMiddle, width());
+  }
+  setText(zeilen.join('\n'));
+}
+
+bool Beschriftung::Passt(const QString &text) const {
+  const int umbruch = wordWrap() ? Qt::TextWordWrap : 0;
+  const QRect bedarf = fontMetrics().boundingRect(rect(), umbruch, text);
+  return bedarf.width() <= width() && bedarf.height() <= height();
+}
+
+void Beschriftung::SetzeFarbe(QRgb farbe) {
+  QPalette palette = this->palette();
+  palette.setColor(QPalette::WindowText, QColor(farbe));
+  setPalette(palette);
+}
+
+void NeueLinie(QWidget *eltern, const Twips &lage, int dicke, QRgb farbe) {
+  auto *linie = new QWidget(eltern);
+  const QRect strecke = Rechteck(lage);
+  linie->setGeometry({strecke.topLeft(), strecke.size().expandedTo({dicke, dicke})});
+  linie->setPalette(QPalette(QColor(farbe)));
+  linie->setAutoFillBackground(true);
+  linie->setAttribute(Qt::WA_TransparentForMouseEvents);
+}

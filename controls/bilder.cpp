@@ -1,0 +1,112 @@
+#include "controls/bilder.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <cmath>
+#include <map>
+#include <utility>
+
+#include "controls/masse.h"
+#include "core/ansicht.h"
+
+namespace {
+
+constexpr int kHoechsteAufloesung = 3;
+constexpr double kStaerksteStreckung = 2;
+constexpr QPoint kZeigerspitze(5, 0);
+
+struct Katalog {
+  std::map<std::pair<QString, double>, QPixmap> bilder;  ///< By name and ratio of device pixels.
+  int geladen = 0;
+};
+Katalog katalog;
+
+QString Ressource(const QString &name, int aufloesung) {
+  const QString stamm =
+      ":/bilder/" + name + (aufloesung > 1 ? QString("@%1x").arg(aufloesung) : "");
+  return QFile::exists(stamm + ".png") ? stamm + ".png" : stamm + ".jpg";
+}
+
+/// The rendering of at least this resolution, or the largest that there is.
+int Aufloesung(const QString &name, double mindestens) {
+  int aufloesung = std::clamp(static_cast<int>(std::ceil(mindestens)), 1, kHoechsteAufloesung);
+  while (aufloesung > 1 && !QFile::exists(Ressource(name, aufloesung)))
+    --aufloesung;
+  return aufloesung;
+}
+
+/// The picture as rendered, or scaled down once from the next larger rendering if the enlargement
+/// is a fraction.
+QPixmap Lade(const QString &name, double geraetepixel) {
+  ++katalog.geladen;
+  const double vergroesserung = geraetepixel * Massstab();
+  const int aufloesung = Aufloesung(name, vergroesserung);
+  QImage bild(Ressource(name, aufloesung));
+  const QSize ziel = (QSizeF(bild.size()) * vergroesserung / aufloesung).toSize();
+  if (ziel != bild.size())
+    bild = bild.scaled(ziel, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QPixmap fertig = QPixmap::fromImage(bild);
+  fertig.setDevicePixelRatio(geraetepixel);
+  return fertig;
+}
+
+QString Reihenbild(const char *stamm, int index) {
+  return stamm + QString::number(index);
+}
+
+}  // namespace
+
+QPixmap Katalogbild(const QString &name, double geraetepixel) {
+  QPixmap &bild = katalog.bilder[{name, geraetepixel}];
+  if (bild.isNull() && !name.isEmpty())
+    bild = Lade(name, geraetepixel);
+  return bild;
+}
+
+void LadeSpielbilder(double geraetepixel) {
+  constexpr std::pair<const char *, int> kReihen[] = {
+      {"platte", 3}, {"pfeil", 2}, {"pfeilhoch", 2}, {"zahl", 11}, {"gruen", 11}, {"rot", 11}};
+  for (const auto &[stamm, anzahl] : kReihen)
+    for (int i = 0; i < anzahl; ++i)
+      Katalogbild(Reihenbild(stamm, i), geraetepixel);
+  Katalogbild(frmBilder::imgSarant(), geraetepixel);
+}
+
+int GeladeneBilder() {
+  return katalog.geladen;
+}
+
+QPixmap Streckbild(const QString &name, const QSizeF &ziel) {
+  const QPixmap bild(Ressource(name, 1));
+  const double faktor = std::max(ziel.width() / bild.width(), ziel.height() / bild.height());
+  const int aufloesung = Aufloesung(name, faktor / kStaerksteStreckung);
+  return aufloesung == 1 ? bild : QPixmap(Ressource(name, aufloesung));
+}
+
+QCursor Handzeiger() {
+  return QCursor(Katalogbild("handzeiger", qGuiApp->devicePixelRatio()), kZeigerspitze.x(),
+                 kZeigerspitze.y());
+}
+
+QString frmBilder::imgPlatte(int index) {
+  return Reihenbild("platte", index);
+}
+QString frmBilder::imgSarant() {
+  return "sarant";
+}
+QString frmBilder::imgPfeil(int phase) {
+  return phase == kKeinPfeil ? QString() : Reihenbild("pfeil", phase);
+}
+QString frmBilder::imgPfeilhoch(int phase) {
+  return phase == kKeinPfeil ? QString() : Reihenbild("pfeilhoch", phase);
+}
+QString frmZahlen::imgZahl(int zahl) {
+  return Reihenbild("zahl", zahl);
+}
+QString frmDigital::imgDiggi(int ziffer) {
+  return Reihenbild("gruen", ziffer);
+}
+QString frmDigital::imgRot(int ziffer) {
+  return Reihenbild("rot", ziffer);
+}

@@ -1,0 +1,71 @@
+#include "controls/zifferreihe.h"
+
+#include <QAccessible>
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "controls/bild.h"
+#include "controls/bilder.h"
+
+namespace {
+
+constexpr Twips kPlatz{0, 0, 210, 420};  // Of a digit.
+
+}  // namespace
+
+Zifferreihe::Zifferreihe(QWidget *eltern, const Twips &ecke, int stellen, const QString &ansage,
+                         const QString &rot)
+    : QWidget(eltern), ansage_(ansage), rot_(rot), ziffern_(static_cast<std::size_t>(stellen)) {
+  setGeometry(Rechteck({ecke.left, ecke.top, stellen * kPlatz.width, kPlatz.height}));
+}
+
+void Zifferreihe::SetzeZiffer(int stelle, Ziffernfarbe farbe, int ziffer) {
+  Ziffer &platz = ziffern_.at(static_cast<std::size_t>(stelle));
+  const Ziffer neu{farbe, ziffer};
+  if (platz == neu)
+    return;
+  platz = neu;
+  update();
+  if (QAccessible::isActive()) {
+    QAccessibleEvent ereignis(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&ereignis);
+  }
+}
+
+void Zifferreihe::ZeigeText(const QString &ziffern) {
+  for (int stelle = 0; stelle < static_cast<int>(ziffern_.size()); ++stelle) {
+    const auto ort = ziffern.size() - 1 - stelle;
+    const int ziffer = ort >= 0 ? ziffern.at(ort).digitValue() : -1;
+    SetzeZiffer(stelle, Ziffernfarbe::Gruen, ziffer >= 0 ? ziffer : kLeereZiffer);
+  }
+}
+
+QString Zifferreihe::Gezeigt() const {
+  QString text;
+  for (const Ziffer &ziffer : ziffern_) {
+    if (ziffer.wert != kLeereZiffer)
+      text.prepend(QString::number(ziffer.wert));
+  }
+  return text;
+}
+
+QString Zifferreihe::Ansage() const {
+  const QString gezeigt = Gezeigt();
+  if (gezeigt.isEmpty())
+    return ansage_ + ": leer";
+  const bool istRot = ziffern_.front().farbe == Ziffernfarbe::Rot;
+  return ansage_ + ": " + (istRot ? rot_ : "") + gezeigt;
+}
+
+void Zifferreihe::paintEvent(QPaintEvent *ereignis) {
+  Q_UNUSED(ereignis)
+  QPainter maler(this);
+  int links = width();
+  for (const auto &[farbe, wert] : ziffern_) {
+    links -= Pixel(kPlatz.width);
+    const QString bild =
+        farbe == Ziffernfarbe::Rot ? frmDigital::imgRot(wert) : frmDigital::imgDiggi(wert);
+    ZeichneGenau(maler, QPointF(links, 0), Katalogbild(bild, devicePixelRatioF()));
+  }
+}

@@ -1,0 +1,79 @@
+#include "shell/panel.h"
+
+#include "controls/bild.h"
+#include "controls/zifferreihe.h"
+
+namespace {
+
+/// A row of the panel: the label picture and the places of its digits.
+struct Paneleintrag {
+  Bildeintrag tafel;
+  Twips ecke;
+  int stellen;
+  const char *rot = "";  ///< What a screen reader says before red digits.
+};
+/// In the order of `Panelreihe`; the last three share `imgAuswertung`, two places each.
+const Paneleintrag kPanel[] = {
+    {{"Image1",
+      {240, 3330, 2865, 630},
+      "tafelPunkte",
+      "Punkte, die Sie in diesem Spiel haben",
+      "Punkte",
+      QAccessible::Graphic},
+     {1860, 3450},
+     5},
+    {{"Image6",
+      {240, 4020, 2865, 630},
+      "tafelLevelpunkte",
+      "Punkte, die der Level bringt oder kostet",
+      "Levelpunkte",
+      QAccessible::Graphic},
+     {2280, 4140},
+     3,
+     "minus "},
+    {{"Image4",
+      {270, 6180, 2865, 630},
+      "tafelLevel",
+      "Level, der gespielt wird",
+      "Level",
+      QAccessible::Graphic},
+     {2460, 6300},
+     2},
+    {{"Image3",
+      {210, 5460, 2865, 630},
+      "tafelOffen",
+      "Saranten, die noch zu finden sind",
+      "noch offen",
+      QAccessible::Graphic},
+     {2430, 5580},
+     2},
+    {{"Image2",
+      {240, 4710, 2865, 630},
+      "tafelFehlversuche",
+      "Felder, die falsch geöffnet wurden",
+      "Fehlversuche",
+      QAccessible::Graphic},
+     {2460, 4830},
+     2},
+};
+constexpr int kStellenJeAuswertung = 2;
+
+}  // namespace
+
+Panel::Panel(QWidget *flaeche) {
+  for (std::size_t i = 0; i < reihen_.size(); ++i) {
+    const auto &[tafel, ecke, stellen, rot] = kPanel[i];
+    new Bild(flaeche, tafel);
+    reihen_.at(i) = new Zifferreihe(flaeche, ecke, stellen, tafel.ansage, rot);
+    reihen_.at(i)->setToolTip(tafel.tooltip);
+  }
+}
+
+void Panel::SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) {
+  auto index = static_cast<std::size_t>(reihe);
+  if (reihe == Panelreihe::imgAuswertung) {
+    index += static_cast<std::size_t>(stelle / kStellenJeAuswertung);
+    stelle %= kStellenJeAuswertung;
+  }
+  reihen_.at(index)->SetzeZiffer(stelle, farbe, ziffer);
+}
