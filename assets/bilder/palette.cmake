@@ -1,4 +1,4 @@
-# Every colour of the pictures, except the gem's own, which stand in glanzgrube.svg.
+# Every colour of the pictures, except those of the gem, which stand in glanzgrube.svg and glanzgrube-klein.svg.
 
 # Light and shade laid over everything that has an edge. The light comes from the top left.
 set(LICHT            "#ffffff")
@@ -17,13 +17,13 @@ set(RILLE            "#2a3645")
 set(SILBER_HELL      "#f4f7fa")
 set(SILBER           "#c3ccd6")
 set(SILBER_DUNKEL    "#8b98a7")
-set(ROTPLATTE_HELL   "#f9d6d4")
-set(ROTPLATTE        "#db9c9b")
+set(ROTPLATTE_HELL   "#f6cfcc")
+set(ROTPLATTE        "#d59291")
 set(ROTPLATTE_DUNKEL "#a86f72")
 set(GRAVUR           "#6e2a31")
 set(GRUBE_HELL       "#16234a")
 set(GRUBE_DUNKEL     "#060b1c")
-set(RISS             "#7d8fc4")
+set(RISS             "#c3d0f0")
 set(FASSUNG_HELL     "#27303d")
 set(FASSUNG_DUNKEL   "#0a0e15")
 
@@ -36,8 +36,8 @@ set(LEUCHT           "#7eea52")
 set(LEUCHT_DUNKEL    "#3fb428")
 set(TASTENRAND       "#51647a")
 set(SCHRIFT          "#1a2940")
-set(TAFEL_HELL       "#8b9db2")
-set(TAFEL_DUNKEL     "#5d7088")
+set(TAFEL_HELL       "#5f7188")
+set(TAFEL_DUNKEL     "#44566c")
 set(TAFELSCHRIFT     "#ffffff")
 set(ZAHLSCHRIFT      "#101c30")
 

@@ -22,27 +22,31 @@ endfunction()
 # make the start of the program a tenth longer.
 koernung(.5 .11 .14 .07)
 stueck(RITZUNG ritzung.svg.in)
-bild(feld feld 643 647 ENDUNG einlage)
+bild(feld feld 643 647 ENDUNG einlage RAND 16)
 koernung(.5 .11 .16 .08)
-bild(spielfeld spielfeld 1000 800 ENDUNG jpg SICHTBREITE 878 SICHTHOEHE 729
+bild(spielfeld spielfeld 1000 800 ENDUNG jpg SICHTBREITE 878 SICHTHOEHE 729 RAND 16
      EINLAGE feld EINLAGE_LINKS 222 EINLAGE_OBEN 14)
 
 koernung(.6 .16 .24 .12)
-bild(schreibtisch schreibtisch 643 647 ENDUNG jpg FAKTOREN 1,2 BREITE_INNEN 640.5 HOEHE_INNEN 644.5)
+bild(schreibtisch schreibtisch 643 647 ENDUNG jpg FAKTOREN 1,2 RAND 16 BREITE_INNEN 640.5 HOEHE_INNEN 644.5)
 
-# The scalloped band: its width, the width without the scallops, and the scallops' diameter.
+# The scalloped band: its width, the width without the scallops, and the scallops' diameter. It begins so that
+# both ends of the sheet cut it alike.
 function(papierbogen name breite hoehe sichtbreite sichthoehe bandbreite bogen)
   math(EXPR halb "${bogen} / 2")
   math(EXPR kern "${bandbreite} - ${halb}")
   math(EXPR perle "${bogen} / 6")
   math(EXPR rille "${kern} - ${halb}")
-  bild(${name} papier ${breite} ${hoehe} ENDUNG jpg SICHTBREITE ${sichtbreite} SICHTHOEHE ${sichthoehe}
+  math(EXPR lage "(${sichthoehe} % ${bogen}) / 2")
+  bild(${name} papier ${breite} ${hoehe} ENDUNG jpg SICHTBREITE ${sichtbreite} SICHTHOEHE ${sichthoehe} RAND 16
        BANDBREITE ${bandbreite} BANDKERN ${kern} BOGEN ${bogen} BOGENHALB ${halb} PERLE ${perle}
-       RILLENLAGE ${rille})
+       RILLENLAGE ${rille} BOGENLAGE ${lage})
 endfunction()
 
 koernung(.45 .03 .03 .015)
+set(FASSUNG "")
 papierbogen(optionen 1000 800 484 448 72 32)
+stueck(FASSUNG fassung.svg.in)
 papierbogen(beste     650 450 342 323 46 24)
 
 # ---- Faces ---------------------------------------------------------------------------------------------
@@ -176,18 +180,18 @@ bild(meldungOk meldung 392 237 ENDUNG jpg SICHTBREITE 387 SICHTHOEHE 228 STREIFE
 
 # ---- Panel ---------------------------------------------------------------------------------------------
 
-# A label and the window for its digits: word, number of digits, left edge of the first digit.
-function(tafel name WORT STELLEN FENSTER)
-  math(EXPR B_FENSTER "14 * ${STELLEN}")
-  math(EXPR B_GLAS "${B_FENSTER} + 6")
-  math(EXPR B_RAHMEN "${B_FENSTER} + 8")
+# A label: word, left edge of the digits' window within the plate, and of the picture within the plate.
+function(tafel name WORT FENSTER LINKS)
+  math(EXPR GLAS "${FENSTER} + 1")
+  math(EXPR B_FENSTER "180 - ${FENSTER}")
+  math(EXPR B_GLAS "${B_FENSTER} - 2")
   bild(${name} tafel 191 42)
 endfunction()
-tafel(tafelPunkte       "Punkte"       5 108)
-tafel(tafelLevelpunkte  "Levelpunkte"  3 136)
-tafel(tafelFehlversuche "Fehlversuche" 2 148)
-tafel(tafelOffen        "noch offen"   2 148)
-tafel(tafelLevel        "Level"        2 146)
+tafel(tafelPunkte       "Punkte"       102 -2)
+tafel(tafelLevelpunkte  "Levelpunkte"  130 -2)
+tafel(tafelFehlversuche "Fehlversuche" 140 -2)
+tafel(tafelOffen        "noch offen"   140 -4)
+tafel(tafelLevel        "Level"        140  0)
 
 # The lit segments of the digits 0 to 9 (a at the top, clockwise to f, g in the middle) and of the blank place.
 set(segmente abcdef bc abged abgcd fgbc afgcd afgedc abc abcdefg abcdfg keine)
@@ -225,7 +229,7 @@ foreach(zahl RANGE 1 9)
   bild(zahl${zahl} zahl 29 31 FIGUREN "<text x='14.5'>${zahl}</text>")
 endforeach()
 bild(zahl0  zahl 29 31 FIGUREN "")
-bild(zahl10 zahl 29 31 FIGUREN "<text x='9.7'>1</text><text x='19.1'>0</text>")
+bild(zahl10 zahl 29 31 FIGUREN "<g font-family='Liberation Sans Narrow'><text x='10'>1</text><text x='19'>0</text></g>")
 
 # The phases of the blinking arrows.
 set(phase 0)

@@ -1,27 +1,28 @@
 #!/bin/sh
 # Renders one sound:  klang.sh SOX TABLE NAME FILE
 # A blow is a few decaying sine tones. The material says how they lie to each other: the overtones of a
-# struck bar of glass ring on, those of stone lie close together and die at once.
+# struck bar of glass are few and high, those of stone are as strong as its pitch and reach small loudspeakers
+# that the pitch does not reach. One of them begins at its peak: together they stay lower, and the sound is louder.
 set -e
 sox=$1 tabelle=$2 name=$3 datei=$4
 
 eval "$(awk -v sox="$sox" -v name="$name" '
-  # overtone(ratio of pitch, strength, ratio of ringing)
-  function teilton(verhaeltnis, staerke, ausklang) {
+  # overtone(ratio of pitch, strength, ratio of ringing, hundredths of a turn at the begin)
+  function teilton(verhaeltnis, staerke, ausklang, phase) {
     tonhoehe = $4 * verhaeltnis
     dauer = $5 * ausklang
-    printf " \"|%s -D -r 44100 -n -p synth %.4f sine %.2f vol %.4f fade l 0.003 %.4f %.4f pad %.4f\"", \
-           sox, dauer, tonhoehe, $6 * staerke * 0.1, dauer, dauer - 0.003, $3
+    printf " \"|%s -D -r 44100 -n -p synth %.4f sine %.2f 0 %d vol %.4f fade l 0.003 %.4f %.4f pad %.4f\"", \
+           sox, dauer, tonhoehe, phase, $6 * staerke * 0.1, dauer, dauer - 0.003, $3
   }
   BEGIN { printf "set --" }
   $1 != name { next }
-  $2 == "length" { laenge = $3; printf " \"|%s -D -r 44100 -n -p trim 0 %s\"", sox, laenge }
-  $2 == "glas"   { teilton(1, 1, 1); teilton(2.756, 0.28, 0.5); teilton(5.404, 0.10, 0.25) }
-  $2 == "stein"  { teilton(1, 1, 1); teilton(1.58, 0.5, 0.6); teilton(2.24, 0.3, 0.4); teilton(3.46, 0.2, 0.2) }
-  END { printf "; laenge=%s\n", laenge }
+  $2 == "length" { laenge = $3; pegel = $4; printf " \"|%s -D -r 44100 -n -p trim 0 %s\"", sox, laenge }
+  $2 == "glas"   { teilton(1, 1, 1, 0); teilton(2.756, 0.28, 0.5, 0); teilton(5.404, 0.10, 0.25, 0) }
+  $2 == "stein"  { teilton(1, 0.7, 1, 0); teilton(2.24, 0.65, 0.8, 25); teilton(3.46, 0.8, 0.8, 0) }
+  END { printf "; laenge=%s pegel=%s\n", laenge, pegel }
 ' "$tabelle")"
 
 # The first input is silence of the whole length. -R and -D: the same file from every build. The
 # silence behind the sound is there to be lost: some sound systems drop what they hold at the end.
 "$sox" -R -D -m "$@" -b 16 -e signed-integer "$datei" \
-  trim 0 "$laenge" fade t 0.001 "$laenge" 0.02 gain -n -6 pad 0 0.2
+  trim 0 "$laenge" fade t 0.001 "$laenge" 0.02 gain -n "$pegel" pad 0 0.2
