@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Checks a help page: title, language, number of pages, embedded fonts, hyphenation, and sentences.
+# Checks a help page: title, language, tags, bookmarks, number of pages, embedded fonts, hyphenation, and
+# sentences.
 # usage: hilfe_test.sh PDF TITLE MIN-MAX SENTENCE...
 set -euo pipefail
 export LC_ALL=C
@@ -17,6 +18,8 @@ if [ "$anzahl" -lt "${seiten%-*}" ] || [ "$anzahl" -gt "${seiten#*-}" ]; then
 fi
 grep -qE '^Page size: .*A4' <<<"$info" || melde "not A4"
 grep -qa '/Lang (de)' "$pdf" || melde "no language"
+grep -qE '^Tagged: +yes' <<<"$info" || melde "no tags for screen readers"
+grep -qa '/Outlines' "$pdf" || melde "no bookmarks"
 
 # Columns from the right: object and generation, Unicode map, subset, embedded.
 schriften=$(pdffonts "$pdf" | tail -n +3)
