@@ -3,8 +3,10 @@
 enable_language(RC)
 
 set(ico ${CMAKE_CURRENT_BINARY_DIR}/glanzgrube.ico)
+get_property(groessen GLOBAL PROPERTY SYMBOLGROESSEN)
+list(REMOVE_ITEM groessen 512)  # More than the format can hold.
 set(symbole "")
-foreach(groesse 16 32 48 64 128 256)
+foreach(groesse IN LISTS groessen)
   list(APPEND symbole ${CMAKE_BINARY_DIR}/symbole/glanzgrube-${groesse}.png)
 endforeach()
 find_program(IMAGEMAGICK_CONVERT convert REQUIRED)
@@ -23,10 +25,11 @@ target_include_directories(beschreibung PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
 target_link_libraries(glanzgrube PRIVATE beschreibung)
 
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION . RENAME LICENSE.txt)
-# Qt and the libraries in it are part of the program here; what they demand to be told is told.
-install(FILES /usr/share/doc/qt6-base-dev/copyright DESTINATION . RENAME LICENSE-Qt.txt)
+include(windows/lizenzen.cmake)
 
 set(CPACK_GENERATOR ZIP NSIS)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/reihenfolge.cmake)
+set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/reihenfolge.cmake)
 set(CPACK_PACKAGE_FILE_NAME glanzgrube-${PROJECT_VERSION}-windows)
 # The project's own script of the installer stands in place of CPack's, which wants an administrator.
 list(APPEND CMAKE_MODULE_PATH ${CMAKE_CURRENT_LIST_DIR})
