@@ -4,6 +4,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 
 #include "controls/bilder.h"
 #include "platform/hintergrundfenster.h"
@@ -16,6 +17,17 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster)
   setAttribute(Qt::WA_OpaquePaintEvent);
   winId();  // The window must exist before its entry in the task bar can be refused.
   OhneTaskleiste(windowHandle());
+  // The game is not to wait for the picture behind it.
+  setUpdatesEnabled(false);
+  hauptfenster->installEventFilter(this);
+}
+
+bool frmHintergrund::eventFilter(QObject *hauptfenster, QEvent *ereignis) {
+  if (ereignis->type() == QEvent::Paint) {
+    hauptfenster->removeEventFilter(this);
+    QTimer::singleShot(0, this, [this] { setUpdatesEnabled(true); });
+  }
+  return false;
 }
 
 void frmHintergrund::paintEvent(QPaintEvent *ereignis) {

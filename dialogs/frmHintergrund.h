@@ -15,6 +15,7 @@ class frmHintergrund : public QWidget {
  protected:
   void paintEvent(QPaintEvent *ereignis) override;
   bool event(QEvent *ereignis) override;
+  bool eventFilter(QObject *hauptfenster, QEvent *ereignis) override;
 
  private:
   QWidget *hauptfenster_;

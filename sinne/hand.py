@@ -10,6 +10,14 @@ def xdotool(*woerter):
     subprocess.run(["xdotool", *map(str, woerter)], check=True, stdout=subprocess.DEVNULL)
 
 
+def im_blick(titel):
+    """Waits until the window is on the screen, and returns what xdotool calls it."""
+    def suche():  # Ends with an error of X when another window goes meanwhile.
+        befehl = ["xdotool", "search", "--onlyvisible", "--name", titel]
+        return subprocess.run(befehl, capture_output=True, text=True).stdout.strip()
+    return warte(suche, f"Fenster {titel}")
+
+
 class Maushand:
     """One hand on the mouse, the other on the keyboard."""
 

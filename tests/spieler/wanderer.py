@@ -17,7 +17,7 @@ from pathlib import Path
 
 import pyatspi
 from gi.repository import GLib
-from hand import Bushand, Maushand, xdotool
+from hand import Bushand, Maushand, im_blick, xdotool
 from modell import FEHLER, MARKIERT, MODI, SARANT, VERDECKT, Brett, Widerspruch
 from ohr import Ohr
 from sinne import ORDNER, TITEL, Abweichung, Programm, ist, knoepfe, mitte, texte, warte
@@ -75,11 +75,9 @@ class Wanderer:
     def deckel(self):
         """A click on the cover brings the minimised game back."""
         if not self.programm.offene():
-            xdotool("search", "--onlyvisible", "--name", TITEL, "windowminimize", "sleep", 0.5)
+            xdotool("windowminimize", im_blick(TITEL), "sleep", 0.5)
             xdotool("mousemove", 5, 5, "click", 1)
-            suche = "timeout 20 xdotool search --sync --onlyvisible --name".split()
-            if subprocess.run([*suche, TITEL], stdout=subprocess.DEVNULL).returncode:
-                raise Abweichung("ein Klick auf den Schreibtisch holt das Spiel nicht zurück")
+            im_blick(TITEL)
 
     def griff(self):
         """Presses any control over the bus. What no mouse can reach must not act."""

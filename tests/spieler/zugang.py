@@ -9,7 +9,7 @@ import subprocess
 import sys
 import time
 
-from hand import Bushand, Maushand, Tastenhand
+from hand import Bushand, Maushand, Tastenhand, im_blick
 from modell import VERDECKT
 from ohr import Ohr
 from sinne import TITEL, ZELLE, Abweichung, warte
@@ -53,7 +53,7 @@ def tasten_tun_nichts(pfad):
         return subprocess.check_output(["import", "-window", "root", "rgb:-"])
     prozess = subprocess.Popen([pfad], env=os.environ | {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/"})
     try:
-        subprocess.check_output(["xdotool", "search", "--sync", "--onlyvisible", "--name", TITEL])
+        im_blick(TITEL)
         taste = Maushand().taste
         time.sleep(1)
         taste("ctrl+n")  # A menu shortcut works, and ends the blinking of the arrow.
