@@ -4,7 +4,6 @@
 
 #include <array>
 #include <deque>
-#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -30,7 +29,6 @@ class FeldAnsicht : public Ansicht {
   std::vector<int> klaenge;
   std::vector<Meldung> meldungen;      ///< Messages and questions, in their order.
   std::deque<std::int16_t> antworten;  ///< Answers to come; an empty queue cancels.
-  std::function<void()> beimBesteneintrag = [] {};
   int bestenpruefungen = 0;
   bool beendet = false;
 
@@ -69,7 +67,7 @@ class FeldAnsicht : public Ansicht {
     return spiel.Antwort == kJa;
   }
   void BestenlistePruefen() override { ++bestenpruefungen; }
-  void ZeigeBesteneintrag() override { beimBesteneintrag(); }
+  void ZeigeBesteneintrag() override {}
   void BeendeDasSpiel() override { beendet = true; }
 
   /// The places of a row from left to right: a digit or '_' for a blank one, red ones in brackets.

@@ -1,11 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include "platform/modExistiertDatei.h"
-#include "platform/pfade.h"
 #include "platform/textdatei.h"
 #include "platform/windows/zeichenumwandlung.h"
 #include "tests/platform/dateien.h"
@@ -15,22 +12,6 @@ class Platform : public testing::Test {
   QTemporaryDir ordner;
   QString pfad = ordner.filePath("datei");
 };
-
-TEST_F(Platform, ProgrammordnerZiehtMitUm) {
-  const QDir baum(ordner.path());
-  const auto erwarte = [&](const QString &stelle, const QString &programmordner) {
-    baum.mkpath(stelle);
-    QFile::copy(ZEIGE_PROGRAMMORDNER, baum.filePath(stelle + "/p"));
-    QProcess programm;
-    programm.start(baum.filePath(stelle + "/p"), {});
-    programm.waitForFinished();
-    EXPECT_EQ(programm.readAllStandardOutput().trimmed(), baum.filePath(programmordner).toUtf8());
-  };
-  erwarte("bin", "bin");
-  baum.mkpath("share/glanzgrube");
-  erwarte("bin", "share/glanzgrube");
-  erwarte("sonstwo", "sonstwo");
-}
 
 TEST_F(Platform, NurEinFehlenderNameImVorhandenenOrdnerFehlt) {
   Lege(pfad, "");

@@ -108,6 +108,15 @@ TEST_F(Spielfeld, JedesBildIstDaUndSoGrossWieSeinPlatz) {
     ErwarteBilder(*fenster);
 }
 
+TEST_F(Spielfeld, LaesstDieTastenLiegenSolangeKeinHilfsmittelDaIst) {
+  Klick("imgNeuesSpiel");
+  const int rest = spiel.SarantenRest;
+  for (const char *taste : {"Tab", "Down", "Space", "Shift+Tab", "Return"})
+    Druecke(*spielfeld, taste);
+  EXPECT_EQ(spielfeld->focusWidget(), nullptr);
+  EXPECT_EQ(spiel.SarantenRest, rest);
+}
+
 TEST_F(Spielfeld, ErreichtOhneMausNurWasEineMausErreicht) {
   const auto Bediene = [this](const QString &name) {
     Finde(*spielfeld, name)->Bediene(Qt::LeftButton);

@@ -122,8 +122,11 @@ def kurz(pfad, ohr):
     with Spieler(pfad, ohr) as spiel:
         leere_liste(spiel)
         letzter_lauf(spiel, "Ja", "Ida", verdirb_liste)
+    # As it is installed, with sounds and pages in a folder of their own.
+    shutil.copytree(Path(pfad).parent, BUEHNE / "usr/share/glanzgrube")
+    (BUEHNE / "usr/bin").mkdir()
+    kopie = shutil.copy(pfad, BUEHNE / "usr/bin")
     # Folders that cannot be used: a list that is a folder, a home that takes none, no home.
-    kopie = shutil.copytree(Path(pfad).parent, BUEHNE / "kopie") / Path(pfad).name
     for programm, meldungen, daten in (
             (pfad, ["Liste gelesen"], BUEHNE / "daten"),
             (pfad, ["Ordner", "Liste gelesen"], "/proc"),
