@@ -75,6 +75,7 @@ class Wanderer:
     def deckel(self):
         """A click on the cover brings the minimised game back."""
         if not self.programm.offene():
+            self.hand.taste("Escape", "Escape")  # An open menu would take the click for itself.
             xdotool("windowminimize", im_blick(TITEL), "sleep", 0.5)
             xdotool("mousemove", 5, 5, "click", 1)
             im_blick(TITEL)
