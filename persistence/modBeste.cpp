@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr int kLetzter = kBeste - 1;
 constexpr int kBesteVorgabe = 15000;  ///< Points of the best entry of the default list.
 constexpr int kVorgabeabstand = 500;  ///< Points between two entries of it.
 
