@@ -26,6 +26,8 @@ TEST_F(Spielfeld, StehtAufDenPixelVorEinemHintergrundDerEsZurueckholt) {
   for (const auto &[name, lage] : lagen)
     EXPECT_EQ(Finde(*spielfeld, name)->geometry(), lage) << name;
   EXPECT_EQ(Finde(*spielfeld, "imgZeigeStart")->Bildname(), "pfeilhoch0");
+  const QPoint mitte = spielfeld->screen()->availableGeometry().center();
+  EXPECT_LE((spielfeld->frameGeometry().center() - mitte).manhattanLength(), 2);
   QWidget *hintergrund = nullptr;
   for (QWidget *fenster : QApplication::topLevelWidgets()) {
     if (qobject_cast<frmHintergrund *>(fenster) && fenster->isVisible())
