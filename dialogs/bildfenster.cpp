@@ -1,10 +1,8 @@
 #include "dialogs/bildfenster.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QScreen>
 
 #include "controls/bild.h"
 #include "controls/bilder.h"
@@ -20,11 +18,11 @@ Bildfenster::Bildfenster(QWidget *eltern, Qt::WindowFlags art, const char *hinte
                          const Twips &groesse)
     : QDialog(eltern, art), hintergrund_(hintergrund) {
   setFixedSize(Rechteck(groesse).size());
+  setWindowModality(Qt::WindowModal);
 }
 
 void Bildfenster::Platziere(const QWidget *hauptfenster, Lage lage) {
-  const QRect rahmen = hauptfenster ? hauptfenster->frameGeometry()
-                                    : QGuiApplication::primaryScreen()->availableGeometry();
+  const QRect rahmen = hauptfenster->frameGeometry();
   const QPoint versatz(Pixel(kVersatz), Pixel(kVersatz));
   switch (lage) {
     case Lage::Mitte:

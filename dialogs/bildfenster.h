@@ -1,6 +1,8 @@
 /// @file
 /// What all windows besides the main one share: a fixed size, a picture as background, their place
-/// over the main window, and no meaning for Enter and Esc but one that the window gives itself.
+/// over the main window, and no meaning for Enter and Esc but one that the window gives itself. One
+/// that waits for the player blocks the windows of the game, but not the cover behind them, whose
+/// click must still bring back a game that was minimised meanwhile.
 #pragma once
 
 #include <QDialog>
@@ -13,7 +15,6 @@ class Bildfenster : public QDialog {
 
  public:
   /// Moves the window to the place that belongs to it over the main window.
-  /// @param hauptfenster   null while there is none yet: the screen takes its place.
   void Platziere(const QWidget *hauptfenster, Lage lage);
 
  protected:

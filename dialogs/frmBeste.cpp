@@ -76,7 +76,7 @@ frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
 void frmBeste::ZeigeZumLesen() {
   spiel.Beste.BestenEintrag = false;
   Platziere(hauptfenster_, Lage::LinksOben);
-  setModal(false);
+  setWindowModality(Qt::NonModal);
   show();
   raise();
   activateWindow();
@@ -84,6 +84,7 @@ void frmBeste::ZeigeZumLesen() {
 
 void frmBeste::ZeigeZumEintragen() {
   hide();
+  setWindowModality(Qt::WindowModal);
   Platziere(hauptfenster_, Lage::LinksOben);
   exec();
 }
@@ -120,8 +121,10 @@ void frmBeste::Form_Activate() {
   const auto niemand = [](const std::string &name) { return name == kNiemand; };
   lblClear_->setVisible(!beste.BestenEintrag &&
                         !std::all_of(beste.lstName.begin(), beste.lstName.end(), niemand));
-  for (std::size_t platz = 0; platz < kBeste; ++platz)
+  for (std::size_t platz = 0; platz < kBeste; ++platz) {
     txtSpieler_.at(platz)->setText(QString::fromStdString(Text(beste.lstName, platz)));
+    txtSpieler_.at(platz)->setCursorPosition(0);  // A long name is read from its beginning.
+  }
   EingabeSperren();
   if (beste.BestenEintrag) {
     cmdClear_->setEnabled(false);

@@ -1,5 +1,6 @@
 #include "dialogs/frmHintergrund.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -44,8 +45,9 @@ bool frmHintergrund::event(QEvent *ereignis) {
   if (klick)  // Not on mere activation, which would undo the minimising of the game at once.
     hauptfenster_->setWindowState(hauptfenster_->windowState() & ~Qt::WindowMinimized);
   if (klick || ereignis->type() == QEvent::WindowActivate) {
+    QWidget *wartend = QApplication::activeModalWidget();
     hauptfenster_->raise();
-    hauptfenster_->activateWindow();
+    (wartend ? wartend : hauptfenster_)->activateWindow();
   }
   return QWidget::event(ereignis);
 }

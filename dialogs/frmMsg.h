@@ -16,7 +16,6 @@ class Meldefenster : public Bildfenster {
 
  public:
   /// Shows the window over the main window and returns when it has closed.
-  /// @param hauptfenster   null while there is none yet: the screen takes its place.
   void ZeigeUeber(QWidget *hauptfenster);
 
  protected:

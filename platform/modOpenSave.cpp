@@ -29,6 +29,7 @@ QString Dateidialog(QWidget *besitzer, const QString &titel, const QString &ordn
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.setAcceptMode(modus);
   dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setWindowModality(Qt::WindowModal);
   if (!ZeigeDateidialog(dialog))
     return {};
   const QString name = dialog.selectedFiles().value(0).trimmed();
