@@ -1,7 +1,6 @@
 #include "shell/frmSpielfeld.h"
 
 #include <QActionGroup>
-#include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
 #include <QMenu>
@@ -151,33 +150,32 @@ void frmSpielfeld::PfeileAufbauen(QWidget *flaeche) {
 
 void frmSpielfeld::MenueAufbauen() {
   using F = frmSpielfeld;
-  // Assistive technology reaches the entries even while another window waits for an answer.
-  const auto Tue = [this](auto tat) {
-    return [this, tat] {
-      if (!QApplication::activeModalWidget())
-        std::invoke(tat, *this);
-    };
+  auto *eintraege = new QActionGroup(this);
+  eintraege->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
+  const auto Eintrag = [&](QMenu *menue, const char *text, auto tat,
+                           const QKeySequence &tasten = {}) {
+    return eintraege->addAction(
+        menue->addAction(text, tasten, this, [this, tat] { std::invoke(tat, *this); }));
   };
   // The blanks behind the first two captions keep the heads of the menus apart.
   QMenu *mnuMenue1 = menuBar()->addMenu("&Spiel                     ");
-  mnuMenue1->addAction("Neues Spiel", Qt::CTRL | Qt::Key_N, this, Tue(imgNeuesSpiel_Click));
-  mnuLaden_ = mnuMenue1->addAction("Spielstand laden...", Qt::CTRL | Qt::Key_O, this,
-                                   Tue(&F::imgOeffnen_Click));
-  mnuSpeichern_ = mnuMenue1->addAction("Spielstand speichern unter...", Qt::CTRL | Qt::Key_S, this,
-                                       Tue(&F::imgSpeichern_Click));
+  Eintrag(mnuMenue1, "Neues Spiel", imgNeuesSpiel_Click, Qt::CTRL | Qt::Key_N);
+  mnuLaden_ = Eintrag(mnuMenue1, "Spielstand laden...", &F::imgOeffnen_Click, Qt::CTRL | Qt::Key_O);
+  mnuSpeichern_ = Eintrag(mnuMenue1, "Spielstand speichern unter...", &F::imgSpeichern_Click,
+                          Qt::CTRL | Qt::Key_S);
   mnuMenue1->addSeparator();
-  mnuMenue1->addAction("b&eenden", this, Tue(imgEnde_Click));
+  Eintrag(mnuMenue1, "b&eenden", imgEnde_Click);
 
   QMenu *mnuMenue2 = menuBar()->addMenu("&Optionen             ");
   SoundmenueAufbauen(mnuMenue2->addMenu("Sound"));
   mnuMenue2->addSeparator();
-  mnuMenue2->addAction("Einstellungen...", this, Tue(&F::imgEinstellungen_Click));
+  Eintrag(mnuMenue2, "Einstellungen...", &F::imgEinstellungen_Click);
 
   QMenu *mnuMenue3 = menuBar()->addMenu("&Information");
-  mnuMenue3->addAction("&Spielanleitung", Qt::Key_F1, this, Tue(&F::lblAnleitung_Click));
-  mnuMenue3->addAction("&zu dieser Anwendung...", this, Tue(&F::lblInfo_Click));
+  Eintrag(mnuMenue3, "&Spielanleitung", &F::lblAnleitung_Click, Qt::Key_F1);
+  Eintrag(mnuMenue3, "&zu dieser Anwendung...", &F::lblInfo_Click);
   mnuMenue3->addSeparator();
-  mnuMenue3->addAction("&Beste Spieler...", this, Tue(&F::mnuBeste_Click));
+  Eintrag(mnuMenue3, "&Beste Spieler...", &F::mnuBeste_Click);
 }
 
 void frmSpielfeld::SoundmenueAufbauen(QMenu *menue) {
@@ -304,6 +302,16 @@ void frmSpielfeld::ZeigeBesteneintrag() {
 void frmSpielfeld::BeendeDasSpiel() {
   spiel.Punkte = 0;
   Form_Unload();
+}
+
+bool frmSpielfeld::event(QEvent *ereignis) {
+  const bool gesperrt = ereignis->type() == QEvent::WindowBlocked;
+  // Assistive technology reaches the entries even while another window waits for an answer.
+  if (gesperrt || ereignis->type() == QEvent::WindowUnblocked) {
+    for (QActionGroup *eintraege : findChildren<QActionGroup *>())
+      eintraege->setEnabled(!gesperrt);
+  }
+  return QMainWindow::event(ereignis);
 }
 
 void frmSpielfeld::showEvent(QShowEvent *ereignis) {

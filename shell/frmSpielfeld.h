@@ -55,6 +55,7 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void BeendeDasSpiel() override;
 
  protected:
+  bool event(QEvent *ereignis) override;
   void showEvent(QShowEvent *ereignis) override;
   void moveEvent(QMoveEvent *ereignis) override;
   void closeEvent(QCloseEvent *ereignis) override;
