@@ -1,12 +1,26 @@
 #include "controls/bild.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "controls/beschriftung.h"
 #include "controls/bilder.h"
+
+namespace {
+
+quint64 losgelassen = 0;  ///< When the last release of a key came to a picture, in ms.
+
+bool IstWiederholung(const QKeyEvent &taste) {
+  // An X server tells each repeat as a release and a press of the same instant, and Qt recognises
+  // them only if it has read both by then.
+  return taste.isAutoRepeat() || (losgelassen != 0 && taste.timestamp() == losgelassen);
+}
+
+}  // namespace
 
 void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild) {
   // Undoing the painter's scale leaves a mere translation, for which Qt copies pixel by pixel.
@@ -17,6 +31,13 @@ void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild) {
   const QRectF ziel(QPointF(0, 0), QSizeF(bild.size()));
   maler.drawPixmap(ziel, bild, ziel);
   maler.setWorldTransform(vorher);
+}
+
+void MeldeNeuenNamen(QWidget *element) {
+  if (QAccessible::isActive()) {
+    QAccessibleEvent ereignis(element, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&ereignis);
+  }
 }
 
 Bild::Bild(QWidget *eltern, const Bildeintrag &eintrag)
@@ -34,7 +55,7 @@ void Bild::SetzeBild(const QString &name) {
   if (bild_ == name)
     return;
   bild_ = name;
-  Aktualisiere();
+  update();
 }
 
 QString Bild::Bildname() const {
@@ -89,10 +110,7 @@ void Bild::ZeigeGedrueckt(bool gedrueckt) {
 
 void Bild::Aktualisiere() {
   update();
-  if (QAccessible::isActive()) {
-    QAccessibleEvent ereignis(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&ereignis);
-  }
+  MeldeNeuenNamen(this);
 }
 
 void Bild::paintEvent(QPaintEvent *ereignis) {
@@ -115,9 +133,25 @@ void Bild::mouseReleaseEvent(QMouseEvent *ereignis) {
   LasseLos(ereignis->button(), rect().contains(ereignis->pos()));
 }
 
+void Bild::keyPressEvent(QKeyEvent *ereignis) {
+  if (ereignis->key() != Qt::Key_Space) {
+    ereignis->ignore();
+    return;
+  }
+  const bool markieren = ereignis->modifiers().testFlag(Qt::ShiftModifier);
+  if (!IstWiederholung(*ereignis))  // What has the focus now may have come under the key meanwhile.
+    Bediene(markieren ? Qt::RightButton : Qt::LeftButton);
+}
+
+void Bild::keyReleaseEvent(QKeyEvent *ereignis) {
+  losgelassen = ereignis->timestamp();
+  ereignis->ignore();
+}
+
 bool Bild::event(QEvent *ereignis) {
-  // A window that opened meanwhile takes the release, which then never comes here.
-  if (ereignis->type() == QEvent::WindowBlocked || ereignis->type() == QEvent::WindowDeactivate)
+  // A window or a menu that opened meanwhile takes the release, which then never comes here.
+  const auto verloren = {QEvent::WindowBlocked, QEvent::WindowDeactivate, QEvent::Leave};
+  if (std::ranges::find(verloren, ereignis->type()) != verloren.end())
     ZeigeGedrueckt(false);
   return QWidget::event(ereignis);
 }

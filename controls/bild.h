@@ -15,6 +15,9 @@ class QPainter;
 /// never scaled.
 void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild);
 
+/// Tells assistive technology that the name of a control has changed.
+void MeldeNeuenNamen(QWidget *element);
+
 /// One entry of a window's table of pictures.
 struct Bildeintrag {
   const char *name;     ///< The control's name.
@@ -61,9 +64,12 @@ class Bild : public QWidget {
   void paintEvent(QPaintEvent *ereignis) override;
   void mousePressEvent(QMouseEvent *ereignis) override;
   void mouseReleaseEvent(QMouseEvent *ereignis) override;
+  /// Space presses the control that has the focus, Shift+Space with the right mouse button.
+  void keyPressEvent(QKeyEvent *ereignis) override;
+  void keyReleaseEvent(QKeyEvent *ereignis) override;
   bool event(QEvent *ereignis) override;
 
-  /// Paints anew and tells assistive technology that the name has changed.
+  /// Paints anew what has another value, and so another name.
   void Aktualisiere();
 
  private:

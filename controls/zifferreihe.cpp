@@ -1,6 +1,5 @@
 #include "controls/zifferreihe.h"
 
-#include <QAccessible>
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
@@ -27,10 +26,7 @@ void Zifferreihe::SetzeZiffer(int stelle, Ziffernfarbe farbe, int ziffer) {
     return;
   platz = neu;
   update();
-  if (QAccessible::isActive()) {
-    QAccessibleEvent ereignis(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&ereignis);
-  }
+  MeldeNeuenNamen(this);
 }
 
 void Zifferreihe::ZeigeText(const QString &ziffern) {

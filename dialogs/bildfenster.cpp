@@ -39,6 +39,15 @@ void Bildfenster::Platziere(const QWidget *hauptfenster, Lage lage) {
   BehalteGroesse(this);
 }
 
+void Bildfenster::showEvent(QShowEvent *ereignis) {
+  // Tab leads to the buttons while assistive technology can tell which has the focus.
+  for (Bild *bild : findChildren<Bild *>()) {
+    if (bild->IstBedienbar())
+      bild->setFocusPolicy(QAccessible::isActive() ? Qt::TabFocus : Qt::NoFocus);
+  }
+  QDialog::showEvent(ereignis);
+}
+
 void Bildfenster::paintEvent(QPaintEvent *ereignis) {
   Q_UNUSED(ereignis)
   QPainter maler(this);

@@ -21,6 +21,7 @@ class Bildfenster : public QDialog {
   /// @param hintergrund   a picture of the catalogue, drawn from the top left corner and cut off.
   Bildfenster(QWidget *eltern, Qt::WindowFlags art, const char *hintergrund, const Twips &groesse);
 
+  void showEvent(QShowEvent *ereignis) override;
   void paintEvent(QPaintEvent *ereignis) override;
   void keyPressEvent(QKeyEvent *ereignis) override;
 

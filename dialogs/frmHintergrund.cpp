@@ -1,6 +1,5 @@
 #include "dialogs/frmHintergrund.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -8,7 +7,7 @@
 #include <QTimer>
 
 #include "controls/bilder.h"
-#include "platform/hintergrundfenster.h"
+#include "platform/fenstersystem.h"
 
 frmHintergrund::frmHintergrund(QWidget *hauptfenster)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), hauptfenster_(hauptfenster) {
@@ -45,9 +44,8 @@ bool frmHintergrund::event(QEvent *ereignis) {
   if (klick)  // Not on mere activation, which would undo the minimising of the game at once.
     hauptfenster_->setWindowState(hauptfenster_->windowState() & ~Qt::WindowMinimized);
   if (klick || ereignis->type() == QEvent::WindowActivate) {
-    QWidget *wartend = QApplication::activeModalWidget();
     hauptfenster_->raise();
-    (wartend ? wartend : hauptfenster_)->activateWindow();
+    hauptfenster_->activateWindow();
   }
   return QWidget::event(ereignis);
 }

@@ -1,6 +1,7 @@
 #include "shell/frmSpielfeld.h"
 
 #include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
 #include <QMenu>
@@ -97,7 +98,6 @@ const std::vector<frmSpielfeld::Knopfeintrag> &frmSpielfeld::Knopftabelle() {
 frmSpielfeld::frmSpielfeld() {
   setWindowTitle(QString::fromStdString(Versionstext()));
   setWindowFlag(Qt::MSWindowsFixedSizeDialogHint);
-  setContextMenuPolicy(Qt::NoContextMenu);
   auto *flaeche = new Bild(this, kFlaeche);
   flaeche->setFixedSize(Rechteck(kFenster).size());
   setCentralWidget(flaeche);
@@ -306,6 +306,9 @@ void frmSpielfeld::BeendeDasSpiel() {
 
 bool frmSpielfeld::event(QEvent *ereignis) {
   const bool gesperrt = ereignis->type() == QEvent::WindowBlocked;
+  QWidget *wartend = QApplication::activeModalWidget();
+  if (ereignis->type() == QEvent::WindowActivate && wartend)
+    wartend->activateWindow();  // The keys belong to it.
   // Assistive technology reaches the entries even while another window waits for an answer.
   if (gesperrt || ereignis->type() == QEvent::WindowUnblocked) {
     for (QActionGroup *eintraege : findChildren<QActionGroup *>())
@@ -339,11 +342,6 @@ void frmSpielfeld::closeEvent(QCloseEvent *ereignis) {
 void frmSpielfeld::keyPressEvent(QKeyEvent *ereignis) {
   if (!tastatur_->Druecke(*ereignis))
     QMainWindow::keyPressEvent(ereignis);
-}
-
-void frmSpielfeld::keyReleaseEvent(QKeyEvent *ereignis) {
-  tastatur_->LasseLos(*ereignis);
-  QMainWindow::keyReleaseEvent(ereignis);
 }
 
 bool frmSpielfeld::focusNextPrevChild(bool vorwaerts) {

@@ -60,7 +60,6 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void moveEvent(QMoveEvent *ereignis) override;
   void closeEvent(QCloseEvent *ereignis) override;
   void keyPressEvent(QKeyEvent *ereignis) override;
-  void keyReleaseEvent(QKeyEvent *ereignis) override;
   bool focusNextPrevChild(bool vorwaerts) override;
 
  private:

@@ -18,7 +18,7 @@
 #include "persistence/modBeste.h"
 #include "persistence/modCdVersion.h"
 #include "persistence/modDateiHandling.h"
-#include "platform/hintergrundfenster.h"
+#include "platform/fenstersystem.h"
 #include "platform/modExistiertDatei.h"
 #include "shell/frmSpielfeld.h"
 
@@ -26,13 +26,15 @@ namespace {
 
 constexpr QSize kFlaeche(878, 729);  ///< The client area of the main window.
 constexpr QSize kRahmen(16, 61);     ///< What its frame and its menu bar take; they do not shrink.
+constexpr QSize kLeiste(0, 48);      ///< A bar of the desktop, where that does not tell of it.
 
 constexpr double kMenueschrift = 9.75;  ///< Points at 96 dpi.
 
 }  // namespace
 
 double Schrumpffaktor() {
-  const QSize frei = QGuiApplication::primaryScreen()->availableSize() - kRahmen;
+  const QSize frei = QGuiApplication::primaryScreen()->availableSize() - kRahmen -
+                     (StapeltFenster() ? QSize(0, 0) : kLeiste);
   return std::min(
       {1.0, 1.0 * frei.width() / kFlaeche.width(), 1.0 * frei.height() / kFlaeche.height()});
 }

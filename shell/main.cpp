@@ -4,6 +4,7 @@
 
 #include "controls/masse.h"
 #include "platform/datenwurzel.h"
+#include "platform/fenstersystem.h"
 #include "shell/frmSpielfeld.h"
 #include "shell/iniMain.h"
 
@@ -11,15 +12,15 @@ namespace {
 
 QtMessageHandler vorher = nullptr;
 
-/// Qt gives up when it finds no screen. A player shall read what is missing.
+/// Qt gives up when it finds no screen. A player shall read what is missing, and nothing of the
+/// ways that Qt has tried, neither then nor when one of them leads to a screen.
 void SagWasFehlt(QtMsgType art, const QMessageLogContext &ort, const QString &text) {
-  if (art != QtFatalMsg)
-    return vorher(art, ort, text);
-  std::fputs(
-      "Glanzgrube findet keinen Bildschirm. In einer Wayland-Sitzung braucht das Spiel das Paket "
-      "»qt6-wayland« oder »xwayland«.\n",
-      stderr);
-  std::_Exit(EXIT_FAILURE);
+  if (art == QtFatalMsg) {
+    std::fprintf(stderr, "%s\n", kOhneBildschirm);
+    std::_Exit(EXIT_FAILURE);
+  }
+  if (!QByteArray(ort.category).startsWith("qt.qpa."))
+    vorher(art, ort, text);
 }
 
 }  // namespace

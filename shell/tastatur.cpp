@@ -37,6 +37,7 @@ QWidget *Tastatur::Aktuelles() const {
 bool Tastatur::WechsleBereich(bool vorwaerts) {
   if (!QAccessible::isActive())
     return false;
+  Aktuelles()->setAccessibleDescription({});
   const QWidget *fokus = flaeche_->window()->focusWidget();
   if (fokus && fokus->isHidden())
     stelle_.at(static_cast<std::size_t>(bereich_)) = 0;
@@ -64,14 +65,11 @@ void Tastatur::LiesZahlen(bool spalte) const {
   Aktuelles()->setAccessibleDescription(zahlen_(spalte, linie));
 }
 
-bool Tastatur::IstWiederholung(const QKeyEvent &taste) const {
-  // An X server tells each repeat as a release and a press of the same instant, and Qt recognises
-  // them only if it has read both by then.
-  return taste.isAutoRepeat() || (losgelassen_ != 0 && taste.timestamp() == losgelassen_);
-}
-
 bool Tastatur::Druecke(const QKeyEvent &taste) {
   if (!QAccessible::isActive() || !flaeche_->isAncestorOf(flaeche_->window()->focusWidget()))
+    return false;
+  Aktuelles()->setAccessibleDescription({});  // What was read was meant for that moment.
+  if (taste.modifiers() & (Qt::ControlModifier | Qt::AltModifier))
     return false;
   const int abwaerts = bereich_ == kFeld ? kLinie : 1;
   const std::map<int, int> schritte{
@@ -79,14 +77,6 @@ bool Tastatur::Druecke(const QKeyEvent &taste) {
   const auto schritt = schritte.find(taste.key());
   if (schritt != schritte.end()) {
     Bewege(schritt->second);
-    return true;
-  }
-  auto *bild = qobject_cast<Bild *>(Aktuelles());
-  if (taste.key() == Qt::Key_Space && bild) {
-    if (IstWiederholung(taste))  // What it presses now may have come under the key meanwhile.
-      return true;
-    const bool markieren = taste.modifiers().testFlag(Qt::ShiftModifier);
-    bild->Bediene(markieren ? Qt::RightButton : Qt::LeftButton);
     return true;
   }
   if ((taste.key() == Qt::Key_Z || taste.key() == Qt::Key_S) && bereich_ == kFeld) {

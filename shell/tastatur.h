@@ -3,8 +3,7 @@
 /// here.
 ///
 /// Tab and Shift+Tab go round the areas: buttons, field, panel. The arrow keys move within an area,
-/// Space presses a button or opens a cell, Shift+Space marks a cell, Z and S read the numbers of
-/// the row and of the column.
+/// Z and S read the numbers of the row and of the column. What has the focus answers Space itself.
 #pragma once
 
 #include <QKeyEvent>
@@ -27,8 +26,6 @@ class Tastatur {
   bool WechsleBereich(bool vorwaerts);
   /// Acts on a key; false if it means nothing.
   bool Druecke(const QKeyEvent &taste);
-  /// Remembers the release of a key, by which the repeats of a held one are known.
-  void LasseLos(const QKeyEvent &taste) { losgelassen_ = taste.timestamp(); }
 
  private:
   enum Bereich { kKnoepfe, kFeld, kPanel, kBereiche };
@@ -36,13 +33,11 @@ class Tastatur {
   std::vector<QWidget *> Elemente(int bereich) const;
   void Bewege(int schritt);
   void LiesZahlen(bool spalte) const;
-  bool IstWiederholung(const QKeyEvent &taste) const;
   QWidget *Aktuelles() const;
 
   QWidget *flaeche_;
   std::vector<QWidget *> zellen_;
   std::function<QString(bool, int)> zahlen_;
   int bereich_ = kPanel;                         ///< The first Tab leads to the buttons.
-  quint64 losgelassen_ = 0;                      ///< When the last release of a key came, in ms.
   std::array<std::size_t, kBereiche> stelle_{};  ///< Where the focus stands in each area.
 };

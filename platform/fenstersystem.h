@@ -1,10 +1,14 @@
 /// @file
-/// What a window that covers the desktop behind the others asks of the system.
+/// What the game asks of the system that shows windows.
 #pragma once
 
 class QWindow;
 
-/// True if a program can put its windows one above the other. Wayland leaves that to the desktop.
+/// What a player reads if the program finds no screen.
+extern const char *const kOhneBildschirm;
+
+/// True if a program can put its windows one above the other, and knows which part of the screen
+/// the desktop leaves to them. Wayland keeps both to the desktop.
 bool StapeltFenster();
 
 /// Asks the desktop to leave a window out of its task bar and pager. The window must have been

@@ -1,8 +1,10 @@
-#include "platform/hintergrundfenster.h"
+#include "platform/fenstersystem.h"
 
 #include <windows.h>
 
 #include <QWindow>
+
+const char *const kOhneBildschirm = "Glanzgrube findet keinen Bildschirm.";
 
 bool StapeltFenster() {
   return true;

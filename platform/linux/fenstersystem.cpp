@@ -1,4 +1,4 @@
-#include "platform/hintergrundfenster.h"
+#include "platform/fenstersystem.h"
 
 #include <QtGui/qguiapplication_platform.h>
 #include <xcb/xcb.h>
@@ -21,6 +21,10 @@ xcb_atom_t Atom(xcb_connection_t *verbindung, std::string_view name) {
 }
 
 }  // namespace
+
+const char *const kOhneBildschirm =
+    "Glanzgrube findet keinen Bildschirm. In einer Wayland-Sitzung braucht das Spiel das Paket "
+    "»qt6-wayland« oder »xwayland«.";
 
 bool StapeltFenster() {
   return !QGuiApplication::platformName().startsWith("wayland");
