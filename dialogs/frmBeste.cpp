@@ -35,11 +35,6 @@ const Bildeintrag kClear{"lblClear",
                          "Einträge zurücksetzen"};
 const Bildeintrag kEnde{"cmdEnde", {990, 4260, 2145, 495}, "knopfOk", "Fenster schließen", "OK"};
 
-/// A text of the list in memory, which a failed reading may have left short.
-std::string Text(const std::vector<std::string> &liste, std::size_t platz) {
-  return platz < liste.size() ? liste[platz] : std::string();
-}
-
 }  // namespace
 
 frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
@@ -91,15 +86,8 @@ void frmBeste::ZeigeZumEintragen() {
 
 void frmBeste::showEvent(QShowEvent *ereignis) {
   Bildfenster::showEvent(ereignis);
-  Form_Activate();
-}
-
-bool frmBeste::event(QEvent *ereignis) {
-  // While a name is typed no other window of the program can come to the front, so that coming back
-  // from another program must not write over the name.
-  if (ereignis->type() == QEvent::WindowActivate && !spiel.Beste.BestenEintrag)
+  if (!ereignis->spontaneous())  // A window that was minimised must not lose the name in it.
     Form_Activate();
-  return Bildfenster::event(ereignis);
 }
 
 void frmBeste::closeEvent(QCloseEvent *ereignis) {
@@ -121,9 +109,10 @@ void frmBeste::Form_Activate() {
   const auto niemand = [](const std::string &name) { return name == kNiemand; };
   lblClear_->setVisible(!beste.BestenEintrag &&
                         !std::all_of(beste.lstName.begin(), beste.lstName.end(), niemand));
-  for (std::size_t platz = 0; platz < kBeste; ++platz) {
-    txtSpieler_.at(platz)->setText(QString::fromStdString(Text(beste.lstName, platz)));
-    txtSpieler_.at(platz)->setCursorPosition(0);  // A long name is read from its beginning.
+  for (int platz = 0; platz < kBeste; ++platz) {
+    QLineEdit *name = txtSpieler_.at(static_cast<std::size_t>(platz));
+    name->setText(QString::fromStdString(Eintrag(beste.lstName, platz)));
+    name->setCursorPosition(0);  // A long name is read from its beginning.
   }
   EingabeSperren();
   if (beste.BestenEintrag) {
@@ -138,9 +127,10 @@ void frmBeste::Form_Activate() {
 }
 
 void frmBeste::PunkteZeigen() {
-  for (std::size_t platz = 0; platz < kBeste; ++platz) {
-    const std::string punkte = Text(spiel.Beste.lstPunkte, platz);
-    imgDiggi_.at(platz)->ZeigeText(PunkteWert(punkte) == 0 ? "" : QString::fromStdString(punkte));
+  int platz = 0;
+  for (Zifferreihe *reihe : imgDiggi_) {
+    const std::string punkte = Eintrag(spiel.Beste.lstPunkte, platz++);
+    reihe->ZeigeText(PunkteWert(punkte) == 0 ? "" : QString::fromStdString(punkte));
   }
 }
 

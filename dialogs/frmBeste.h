@@ -35,7 +35,6 @@ class frmBeste : public Bildfenster {
   void showEvent(QShowEvent *ereignis) override;
   void closeEvent(QCloseEvent *ereignis) override;
   void keyPressEvent(QKeyEvent *ereignis) override;
-  bool event(QEvent *ereignis) override;
 
  private:
   void Form_Activate();

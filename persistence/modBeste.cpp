@@ -43,14 +43,12 @@ void ErgaenzeListe() {
   }
 }
 
-/// The points of a place; a place that is missing counts as 0.
-std::int32_t PunkteAuf(int platz) {
-  const Texte &punkte = spiel.Beste.lstPunkte;
-  const auto stelle = static_cast<std::size_t>(platz);
-  return stelle < punkte.size() ? PunkteWert(punkte[stelle]) : 0;
-}
-
 }  // namespace
+
+std::string Eintrag(const std::vector<std::string> &liste, int platz) {
+  const auto stelle = static_cast<std::size_t>(platz);
+  return stelle < liste.size() ? liste[stelle] : std::string();
+}
 
 std::int32_t PunkteWert(const std::string &text) {
   std::int32_t wert = 0;
@@ -95,7 +93,7 @@ void BestenlistePruefen(Ansicht &ansicht) {
   beste.BestenEintrag = false;
   beste.BestenPlatz = -1;
   for (std::int16_t platz = 0; platz < kBeste && beste.BestenPlatz < 0; ++platz)
-    if (spiel.Punkte > PunkteAuf(platz))
+    if (spiel.Punkte > PunkteWert(Eintrag(beste.lstPunkte, platz)))
       beste.BestenPlatz = platz;
   if (beste.BestenPlatz < 0) {
     ansicht.Melde(MeldungKeinBesteneintrag());

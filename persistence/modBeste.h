@@ -6,6 +6,7 @@
 #include <QString>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "core/ansicht.h"
 
@@ -32,6 +33,10 @@ void BestenlistePruefen(Ansicht &ansicht);
 /// Inserts an entry at `BestenPlatz` into the list in memory and lets the player type the name. The
 /// file is written when the player is done with that.
 void BestenlisteEintragen(Ansicht &ansicht);
+
+/// An entry of one of the two lists in memory, which a failed load may have left short: an entry
+/// that is missing is empty.
+std::string Eintrag(const std::vector<std::string> &liste, int platz);
 
 /// The value of a text of points; a text without a value counts as 0.
 std::int32_t PunkteWert(const std::string &text);
