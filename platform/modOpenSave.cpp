@@ -25,6 +25,7 @@ QString Laufwerkswurzel() {
 
 QString Dateidialog(QWidget *besitzer, const QString &titel, const QString &ordner,
                     QFileDialog::AcceptMode modus) {
+  MerkeNichts();
   QFileDialog dialog(besitzer, titel, NaechsterVorhandener(ordner), "Spieldateien (*.sar)");
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.setAcceptMode(modus);

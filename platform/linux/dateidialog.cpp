@@ -47,9 +47,12 @@ class DeutscheSpalten : public QIdentityProxyModel {
 
 }  // namespace
 
-bool ZeigeDateidialog(QFileDialog &dialog) {
+void MerkeNichts() {
   // Qt would keep a history in the player's configuration. There it finds no place for one.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+}
+
+bool ZeigeDateidialog(QFileDialog &dialog) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   new DeutscheSpalten(dialog);
   return dialog.exec() == QDialog::Accepted;

@@ -8,8 +8,10 @@
 #include <sndfile.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QPointer>
+#include <QStandardPaths>
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -50,6 +52,13 @@ Klang Lies(const QString &pfad) {
       std::max<sf_count_t>(0, sf_readf_short(datei.get(), klang.werte.data(), laenge)) *
       info.channels));
   return klang;
+}
+
+/// False if the player has no key for sound servers. libpulse would make one, among the player's
+/// own files; a server on this machine does not ask for it.
+bool KenntServer() {
+  return QFile::exists(QDir::home().filePath(".pulse-cookie")) ||
+         !QStandardPaths::locate(QStandardPaths::GenericConfigLocation, "pulse/cookie").isEmpty();
 }
 
 class Tonserver final : public Tonmelder {
@@ -95,6 +104,8 @@ class Tonserver final : public Tonmelder {
           Das(ich).ZaehleGeraete();
         },
         this);
+    if (!KenntServer())
+      pa_context_load_cookie_from_file(verbindung_, "/dev/zero");
     pa_context_connect(verbindung_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr);
   }
 

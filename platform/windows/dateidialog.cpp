@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 
+void MerkeNichts() {}
+
 bool ZeigeDateidialog(QFileDialog &dialog) {
   const bool gewaehlt = dialog.exec() == QDialog::Accepted;
   // The owner takes no input until the dialog has gone, so that the system has passed it over.

@@ -1,5 +1,8 @@
 #include "platform/dateiersatz.h"
 
+#include <io.h>
+#include <windows.h>
+
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -24,6 +27,9 @@ Dateifehler ErsetzeDatei(const QString &pfad, const QByteArray &inhalt) {
   if (!datei.open(QIODevice::WriteOnly))
     return Schreibfehler(datei);
   datei.write(inhalt);
-  // commit() would lose a failure of the last flush and replace the old file by a short one.
-  return datei.flush() && datei.commit() ? Dateifehler::Keiner : Schreibfehler(datei);
+  // commit() would lose a failure of the last flush or of the disk, and replace the old file.
+  if (datei.flush() && !FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(datei.handle()))))
+    return Dateifehler::Anderer;
+  return datei.error() == QFileDevice::NoError && datei.commit() ? Dateifehler::Keiner
+                                                                 : Schreibfehler(datei);
 }
