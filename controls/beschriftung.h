@@ -20,7 +20,8 @@ inline constexpr QRgb kPurpur = 0xffc000c0;
 /// The colours of everything that the game does not paint itself: those of its stone.
 QPalette Steinpalette();
 
-/// A font whose size does not depend on the screen. @param punkt   points at 96 dpi.
+/// A font of the game, whatever the desktop has chosen. @param punkt   points at 96 dpi and full
+/// scale, see Massstab().
 QFont Schrift(double punkt, bool fett);
 
 /// One entry of a window's table of texts.
@@ -35,9 +36,9 @@ struct Texteintrag {
   bool umbruch = false;  ///< Lines that are too long continue on the next one.
 };
 
-/// A transparent label of plain text that always shows its whole text: where the letters of a scale
-/// come out too wide for the place, they are a little smaller, and what is too long even then, as
-/// the path of a folder can be, is shortened in its middle.
+/// A transparent label of plain text that fits its place: where the letters of a scale come out too
+/// wide, they are a little smaller, and what is too long even then, as the path of a folder can be,
+/// is shortened in its middle.
 class Beschriftung : public QLabel {
   Q_OBJECT
 

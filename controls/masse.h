@@ -12,9 +12,9 @@ struct Twips {
   int height = 0;
 };
 
-/// The factor by which every window and picture is smaller than told; 1 at the start.
+/// The size of every window and picture as a part of what is told; 1 at the start.
 double Massstab();
-/// Must be called before the first window or picture is made. @param faktor above 0, at most 1.
+/// Must be called before the first window or picture is made. @param faktor above 0.
 void StelleMassstab(double faktor);
 
 /// The pixels of a length, rounded to the nearest.
