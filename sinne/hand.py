@@ -43,7 +43,8 @@ class Bushand:
 
 
 class Tastenhand(Maushand):
-    """Goes to an element with Tab and the arrow keys and presses it with the space bar."""
+    """Goes to an element with Tab, in the main window also with the arrow keys, and presses it with
+    the space bar."""
 
     def fokus(self, app):
         return next((e for e in alle(app, feld=True) if ist(e, pyatspi.STATE_FOCUSED)), None)
@@ -67,8 +68,12 @@ class Tastenhand(Maushand):
                 weg += [vor] * schritte + [zurueck] * -schritte
             self.taste(*weg, "space" if knopf == 1 else "shift+space")
         else:
-            self.gehe(app, "Tab", lambda e: e.getRole() in KNOPFROLLEN and not ZELLE.match(e.name))
-            self.taste(*["Up"] * 12)
-            self.gehe(app, "Down", lambda e: e == element)
+            if element.parent.getRole() == pyatspi.ROLE_DIALOG:
+                self.gehe(app, "Tab", lambda e: e == element)
+            else:
+                self.gehe(app, "Tab",
+                          lambda e: e.getRole() in KNOPFROLLEN and not ZELLE.match(e.name))
+                self.taste(*["Up"] * 12)
+                self.gehe(app, "Down", lambda e: e == element)
             # Repeats of the key must not press what the focus comes to when the button goes.
             xdotool("keydown", "space", "sleep", 1, "keyup", "space")

@@ -13,6 +13,7 @@
 #include "dialogs/frmBeste.h"
 #include "dialogs/frmOptionen.h"
 #include "persistence/modBeste.h"
+#include "shell/iniMain.h"
 #include "tests/fensterprobe.h"
 
 namespace {
@@ -94,8 +95,15 @@ class Bildschirme : public testing::Test {
   QTemporaryDir ordner;
 };
 
+/// Name and size of a picture.
+QString Groesse(const QString &bild) {
+  const QSize groesse = Katalogbild(bild, 1).size();
+  return bild.isEmpty() ? ""
+                        : QString("%1 %2x%3").arg(bild).arg(groesse.width()).arg(groesse.height());
+}
+
 /// What a player sees and hears of a control, apart from its pixels.
-QString Beschreibung(const QWidget &element) {
+QString Beschreibung(QWidget &element) {
   const QRect lage = element.geometry();
   QStringList teile{
       element.objectName(),
@@ -106,10 +114,16 @@ QString Beschreibung(const QWidget &element) {
                  .arg(text.font().pixelSize())
                  .arg(text.font().bold() ? " fett" : "", farbe);
   };
-  if (const auto *bild = qobject_cast<const Bild *>(&element)) {
-    teile << QMetaEnum::fromType<QAccessible::Role>().valueToKey(bild->Rolle()) << bild->Bildname()
-          << bild->Ansage() << QString(bild->IstGewaehlt() ? "gewählt" : "")
-          << QString(bild->IstBedienbar() ? "bedienbar" : "");
+  if (auto *bild = qobject_cast<Bild *>(&element)) {
+    const QString name = bild->Bildname();
+    QMouseEvent druck(QEvent::MouseButtonPress, {}, {}, Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(bild, &druck);
+    teile << QMetaEnum::fromType<QAccessible::Role>().valueToKey(bild->Rolle())
+          << (Katalogbild(name, 1).size() == bild->size() ? name : Groesse(name))
+          << QString(bild->Bildname() == name ? "" : Groesse(bild->Bildname())) << bild->Ansage()
+          << QString(bild->IstGewaehlt() ? "gewählt" : "")
+          << QString(bild->IstBedienbar() ? "bedienbar" : "")
+          << QString(bild->cursor().shape() == Qt::BitmapCursor ? "Hand" : "");
   } else if (const auto *ziffern = qobject_cast<const Zifferreihe *>(&element)) {
     teile << ziffern->Ansage();
   } else if (const auto *text = qobject_cast<const QLabel *>(&element)) {
@@ -128,9 +142,13 @@ QString Beschreibung(const QWidget &element) {
 
 TEST_F(Bildschirme, AllesStehtWieEsImInventarSteht) {
   QStringList zeilen;
-  const auto Verzeichne = [&](const QWidget &fenster) {
+  const auto Verzeichne = [&](QWidget &fenster) {
+    fenster.grab();
+    const int geladen = GeladeneBilder();
+    fenster.grab();
+    EXPECT_EQ(GeladeneBilder(), geladen) << "a picture that is missing is looked for again";
     zeilen << "" << QString("»%1« ").arg(fenster.window()->windowTitle()) + Beschreibung(fenster);
-    for (const QWidget *element : fenster.findChildren<QWidget *>()) {
+    for (QWidget *element : fenster.findChildren<QWidget *>()) {
       static const QRegularExpression ort("^img(Sar|Diggi)(\\d+)$");
       const auto nummer = ort.match(element->objectName());
       if (!nummer.hasMatch() || nummer.captured(2).toInt() % 11 == 1)  // A diagonal stands for all.
@@ -141,11 +159,22 @@ TEST_F(Bildschirme, AllesStehtWieEsImInventarSteht) {
   Verzeichne(*hauptfenster.centralWidget());
   for (const QAction *eintrag : hauptfenster.findChildren<QAction *>())
     zeilen << QString("»%1« %2").arg(eintrag->text(), eintrag->shortcut().toString()).trimmed();
-  Verzeichne(frmOptionen(&hauptfenster, hauptfenster));
-  Verzeichne(hauptfenster.Bestenfenster());
-  Verzeichne(frmMsgJa(FrageBeenden()));
-  Verzeichne(frmMsgOk(MeldungInfo()));
+  frmOptionen optionen(&hauptfenster, hauptfenster);
+  frmMsgJa frage(FrageBeenden());
+  frmMsgOk ansage(MeldungInfo());
+  for (QWidget *fenster :
+       QList<QWidget *>{&optionen, &hauptfenster.Bestenfenster(), &frage, &ansage})
+    Verzeichne(*fenster);
   zeilen << "";
+  for (int k = 0; k <= kLeereZiffer; ++k)
+    zeilen << QStringList{Groesse(frmZahlen::imgZahl(k)),
+                          Groesse(frmDigital::imgDiggi(k)),
+                          Groesse(frmDigital::imgRot(k)),
+                          Groesse(frmBilder::imgPlatte(k % 3)),
+                          Groesse(frmBilder::imgPfeil(k % 2)),
+                          Groesse(frmBilder::imgPfeilhoch(k % 2)),
+                          Groesse(frmBilder::imgSarant())}
+                  .join(" | ");
   for (const auto &meldungen : {Fragen(), Ansagen()})
     for (const Meldung &meldung : meldungen)
       zeilen << QString("%1 | %2 | %3 | %4")
@@ -156,6 +185,14 @@ TEST_F(Bildschirme, AllesStehtWieEsImInventarSteht) {
   const QString neu = QCoreApplication::applicationDirPath() + "/inventar.txt";
   Lege(neu, zeilen.join('\n').replace(ordner.path(), "ORDNER").toUtf8() + '\n');
   EXPECT_TRUE(Inhalt(neu) == Inhalt(INVENTAR)) << "diff " INVENTAR " " << qPrintable(neu);
+}
+
+TEST_F(Bildschirme, DasHauptfensterFuelltDenSchirmHoechstens) {
+  StelleMassstab(Schrumpffaktor());
+  const frmSpielfeld fenster;
+  const QSize frei = fenster.screen()->availableSize() - QSize(16, 40);  // For the frame.
+  EXPECT_EQ(fenster.size().boundedTo(frei), fenster.size());
+  EXPECT_TRUE(Massstab() == 1 || frei.height() - fenster.height() < 8);
 }
 
 TEST_F(Bildschirme, InJedemMassstabPasstAlles) {

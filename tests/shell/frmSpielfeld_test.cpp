@@ -68,43 +68,6 @@ TEST_F(Spielfeld, LaesstDenGedruecktenKnopfLosWennEineFrageKommt) {
   EXPECT_EQ(knopf->Bildname(), "cmdBeschreibungenAuswahl");
 }
 
-/// Each picture of a window has the size of its control, and all that is painted is there: what is
-/// missing would be looked for at each painting.
-void ErwarteBilder(QWidget &fenster) {
-  for (Bild *bild : fenster.findChildren<Bild *>()) {
-    QMouseEvent druck(QEvent::MouseButtonPress, {}, {}, Qt::LeftButton, Qt::LeftButton, {});
-    for (const bool gedrueckt : {false, true}) {
-      if (gedrueckt)
-        QApplication::sendEvent(bild, &druck);
-      const QString name = bild->Bildname();
-      EXPECT_TRUE(name.isEmpty() || Katalogbild(name, 1).size() == bild->size())
-          << qPrintable(name);
-    }
-  }
-  fenster.grab();
-  const int geladen = GeladeneBilder();
-  fenster.grab();
-  EXPECT_EQ(GeladeneBilder(), geladen);
-}
-
-TEST_F(Spielfeld, JedesBildIstDaUndSoGrossWieSeinPlatz) {
-  for (int k = 0; k <= kLeereZiffer; ++k) {  // Phases, tiles, numbers and digits alike.
-    spielfeld->SetzeZahl(k + 1, k);
-    spielfeld->SetzeKachel(k + 1, static_cast<Kachel>(k % 4));
-    for (const Pfeil pfeil : {Pfeil::Start, Pfeil::Weiter})
-      spielfeld->ZeigePfeil(pfeil, k % kKeinPfeil);
-    for (const QString &ziffer : {frmDigital::imgDiggi(k), frmDigital::imgRot(k)})
-      EXPECT_EQ(Katalogbild(ziffer, 1).size(), QSize(14, 28)) << k;
-    ErwarteBilder(*Finde(*spielfeld, "frmSpielfeld"));
-  }
-  frmOptionen optionen(spielfeld.get(), *spielfeld);
-  frmMsgJa frage(FrageBeenden());
-  frmMsgOk meldung(MeldungInfo());
-  for (QWidget *fenster :
-       QList<QWidget *>{&spielfeld->Bestenfenster(), &optionen, &frage, &meldung})
-    ErwarteBilder(*fenster);
-}
-
 TEST_F(Spielfeld, LaesstDieTastenLiegenSolangeKeinHilfsmittelDaIst) {
   Klick("imgNeuesSpiel");
   const int rest = spiel.SarantenRest;

@@ -7,10 +7,27 @@ import shutil
 import sys
 from pathlib import Path
 
+from hand import xdotool
 from modell import BESTE, MARKIERT, MODI, SARANT, liste_als_datei
 from ohr import Ohr
-from sinne import BUEHNE, ORDNER, Abweichung, lies_dateien
+from sinne import BUEHNE, ORDNER, TITEL, Abweichung, alle, lies_dateien, mitte
 from spieler import LISTE, Spieler, lege_ab
+
+
+def greife(spiel):
+    """A message is moved by its title, and not by its text."""
+    spiel.tue("Info")
+    fenster = spiel.fenster(TITEL)
+    for anfang, bewegt in (TITEL, True), ("Grafik", False):
+        griff = next(e for e in alle(fenster) if e.name.startswith(anfang) and e != fenster)
+        vorher = mitte(fenster)
+        xdotool("mousemove", *mitte(griff), "mousedown", 1)
+        for _ in range(3):
+            xdotool("mousemove_relative", 20, 10, "sleep", 0.2)
+        xdotool("mouseup", 1)
+        if (mitte(fenster) != vorher) != bewegt:
+            raise Abweichung(f"{anfang}: von {vorher} nach {mitte(fenster)}")
+    spiel.bestaetige("Info", "OK")
 
 
 def erster_lauf(spiel):
@@ -21,6 +38,7 @@ def erster_lauf(spiel):
         modell.waehle_modus(modus)
         spiel.schritt(MODI[modus])
     spiel.druecke_f1("saranten.pdf")
+    greife(spiel)
     spiel.lies_liste()
     spiel.druecke_f1("Bestespieler.pdf")
     spiel.hand.taste("alt+a")  # A list of defaults is not cleared, and nothing is asked.
@@ -38,8 +56,8 @@ def erster_lauf(spiel):
     spiel.oeffne((1, 1))
     spiel.frage(lambda: spiel.datei("ctrl+s", ""), "kein Name", "OK")
     spiel.frage(lambda: spiel.datei("ctrl+s", "fehlt/spiel"), "Schreibfehler", "Escape", "3")
-    modell.speichere("spiel.sar")
-    spiel.schritt(lambda: spiel.datei("ctrl+s", "spiel"))
+    modell.speichere(":spiel.sar")
+    spiel.schritt(lambda: spiel.datei("ctrl+s", ":spiel"))
     spiel.schritt("Nächster Level", modell.naechster_level())
     spiel.schritt("ctrl+s ctrl+o")  # Neither may be used now.
     spiel.frage("ctrl+n", "neu", "n")
@@ -65,14 +83,14 @@ def zweiter_lauf(spiel):
     spiel.schritt(lambda: spiel.datei("ctrl+o", ""))
     spiel.frage(lambda: spiel.datei("ctrl+o", "sarant.ini"), "Dateityp", "OK", "sarant.ini")
     spiel.frage(lambda: spiel.datei("ctrl+o", "fehlt.sar"), "Lesefehler", "OK", "1")
-    spiel.lade("spiel.sar", "Nein")
-    for name in "spiel.sar", "knapp.sar":
+    spiel.lade(":spiel.sar", "Nein")
+    for name in ":spiel.sar", "knapp.sar":
         spiel.lade(name)
     spiel.gewinne()
     spiel.schritt("Nächster Level", modell.naechster_level())
     modell.bester = False
     spiel.frage("Bester Spieler", "Bestmarke", "n")
-    for name in "spiel.sar", "knapp.sar":
+    for name in ":spiel.sar", "knapp.sar":
         (ORDNER / name).unlink()
         del modell.dateien[name]
     spiel.frage("Spiel laden", "suche", "Nein", ORDNER)

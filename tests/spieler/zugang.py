@@ -41,6 +41,8 @@ def lies_linien(spiel):
         ansage = f"{linie[0]} {linie[1]}: {', '.join(reversed(zahlen)) or 'leer'}"
         spiel.hand.taste(kuerzel)
         warte(lambda: spiel.hand.fokus(app).description == ansage, ansage)
+    spiel.hand.taste("Left", "Right")
+    warte(lambda: spiel.hand.fokus(app).description == "", "nichts mehr vorgelesen")
 
 
 def main(pfad):
@@ -51,6 +53,7 @@ def main(pfad):
         with Spieler(pfad, ohr, Tastenhand()) as spiel:
             lies_linien(spiel)
             spiele_level(spiel)
+            spiel.optionen("Ja", 6, 1, ton=False)
     ohr.schliesse()
 
 
