@@ -1,9 +1,9 @@
 # What a program that players get does against faults of memory, and that its bytes do not depend on
-# the folder of the build. A build for work on the code has the sanitizers instead.
+# the folder of the build. The builds for work on the code go without it.
 set(AUSGABE $<CONFIG:Release,MinSizeRel>)
 add_compile_options($<${AUSGABE}:-fstack-protector-strong>
-  $<${AUSGABE}:-ffile-prefix-map=${PROJECT_BINARY_DIR}=build>
-  $<${AUSGABE}:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
+  $<${AUSGABE}:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>
+  $<${AUSGABE}:-ffile-prefix-map=${PROJECT_BINARY_DIR}=build>)
 
 if(WIN32)
   add_link_options($<${AUSGABE}:-fstack-protector-strong>

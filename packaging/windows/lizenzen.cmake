@@ -4,6 +4,8 @@ set(LIZENZEN ${CMAKE_CURRENT_BINARY_DIR}/Lizenzen)
 file(REMOVE_RECURSE ${LIZENZEN})
 execute_process(COMMAND dpkg-query -W -f \${source:Version} qt6-base-dev
   OUTPUT_VARIABLE QT_QUELLE COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND dpkg-query -W -f \${source:Version} qt6-translations-l10n
+  OUTPUT_VARIABLE UEBERSETZUNG_QUELLE COMMAND_ERROR_IS_FATAL ANY)
 configure_file(windows/Lizenzen.txt.in ${LIZENZEN}/LIESMICH.txt @ONLY)
 
 set(texte "")
