@@ -68,25 +68,7 @@ TEST_F(Meldungen, StehenAnIhremOrtUndLassenDenPfeilBlinken) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return pfeil->Bildname() == "pfeil0"; }, 2000));
 }
 
-class Optionen : public Fensterprobe {
- protected:
-  /// Opens the options, clicks the named controls, and answers the confirmation if one follows.
-  void Waehle(const QStringList &klicks, const char *antwort = "J") {
-    if (spiel.Punkte != 0)
-      DannAntworte("J");
-    Dann<frmOptionen>([=, this](frmOptionen &fenster) {
-      for (const QString &name : klicks) {
-        if (name == "cmdNehmen")
-          DannAntworte(antwort);
-        Klick(Finde(fenster, name));
-      }
-      EXPECT_EQ(fenster.isVisible(), !klicks.contains("cmdNehmen"));
-      fenster.close();
-    });
-    Klick("imgEinstellungen");
-    EXPECT_EQ(Finde(*spielfeld, "imgZeigeStart")->Bildname(), "");
-  }
-};
+using Optionen = Fensterprobe;
 
 TEST_F(Optionen, JedeStufeInJedemModusBeginntIhrSpiel) {
   constexpr int kPunkte[][6] = {{500, 1500, 3000, 4500, 6000, 7500},
@@ -94,19 +76,25 @@ TEST_F(Optionen, JedeStufeInJedemModusBeginntIhrSpiel) {
                                 {500, 1750, 3500, 5250, 7000, 8750}};
   for (int modus = 1; modus <= kModi; ++modus) {
     for (int stufe = 0; stufe < 6; ++stufe) {
-      QStringList klicks;
-      if (stufe != 0)  // The first tier is chosen already, and its face takes no clicks.
-        klicks << "imgLevel" + QString::number(stufe);
       const bool neu = modus != spiel.Spielmodus;
-      if (neu)
-        klicks << "imgModus" + QString::number(modus);
       Lege(Datei("sarant.ini"), "fremd");
-      Waehle(klicks << "cmdNehmen", "N");
-      EXPECT_NE(spiel.Punkte, kPunkte[modus - 1][stufe]);
-      Waehle(klicks);
+      for (const char *antwort : {"N", "J"}) {
+        spiel.Punkte = 0;
+        Dann<frmOptionen>([&](frmOptionen &fenster) {
+          if (stufe != 0)  // The first tier is chosen already, and its face takes no clicks.
+            Klick(Finde(fenster, "imgLevel" + QString::number(stufe)));
+          if (neu)
+            Klick(Finde(fenster, "imgModus" + QString::number(modus)));
+          DannAntworte(antwort);
+          Klick(Finde(fenster, "cmdNehmen"));
+          EXPECT_FALSE(fenster.isVisible());
+        });
+        Klick("imgEinstellungen");
+        EXPECT_EQ(spiel.Punkte, *antwort == 'J' ? kPunkte[modus - 1][stufe] : 0);
+      }
+      EXPECT_EQ(Finde(*spielfeld, "imgZeigeStart")->Bildname(), "");
       EXPECT_EQ(spiel.Level, 5 * stufe + 1);
       EXPECT_EQ(spiel.Spielmodus, modus);
-      EXPECT_EQ(spiel.Punkte, kPunkte[modus - 1][stufe]);
       // A mode that stays as it was is not written.
       EXPECT_EQ(Inhalt(Datei("sarant.ini")), neu ? QByteArray::number(modus) + "\r\n" : "fremd");
     }
@@ -207,19 +195,18 @@ TEST_F(Bestenfenster, EineKurzeListeIstNachOkVollUndWasNichtGeloeschtWurdeWirdGe
 TEST_F(Bestenfenster, WirdNurMitJaGeloescht) {
   TrageEin(16000, Ok);
   Fenster().close();  // Unloading brings the access key back.
-  // The third time nobody is asked: a list of defaults is not cleared.
-  for (const char *antwort : {"N", "J", ""}) {
-    const bool loeschbar = *antwort != 0;
+  for (const char *antwort : {"N", "J"}) {
+    const bool ja = *antwort == 'J';
     Fenster().ZeigeZumLesen();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Fenster()));
-    EXPECT_EQ(Finde(Fenster(), "lblClear")->isHidden(), !loeschbar);
-    if (loeschbar)
-      DannAntworte(antwort);
+    DannAntworte(antwort);
     Druecke(Fenster(), "Alt+A");
-    EXPECT_EQ(Zeilen().first(), antwort == std::string("N") ? "Spieler" : "Niemand");
-    EXPECT_EQ(spiel.Bestenschwelle, antwort == std::string("N") ? 13500 : 13000);
+    EXPECT_EQ(Zeilen().first(), ja ? "Niemand" : "Spieler");
+    EXPECT_EQ(spiel.Bestenschwelle, ja ? 13000 : 13500);
     EXPECT_TRUE(Fenster().isHidden());
   }
+  Fenster().ZeigeZumLesen();  // A list of defaults is not cleared.
+  EXPECT_TRUE(Finde(Fenster(), "lblClear")->isHidden());
 }
 
 }  // namespace

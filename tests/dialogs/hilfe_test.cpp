@@ -8,26 +8,24 @@ namespace {
 
 TEST_F(Fensterprobe, SagtWoDieHilfeLiegtWennNichtsSieOeffnet) {
   const QByteArray suchpfad = qgetenv("PATH");
+  const QTemporaryDir programme;
+  const QString oeffner = programme.filePath("xdg-open");
+  qputenv("PATH", programme.path().toUtf8());
   frmBeste &fenster = spielfeld->Bestenfenster();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(spielfeld.get()));
-  for (const QByteArray oeffner : {"exit 0", "exit 3", ""}) {
-    fenster.ZeigeZumLesen();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster));
-    const QTemporaryDir programme;
-    if (!oeffner.isEmpty()) {
-      Lege(programme.filePath("xdg-open"), "#!/bin/sh\n" + oeffner);
-      QFile::setPermissions(programme.filePath("xdg-open"), QFile::ReadOwner | QFile::ExeOwner);
+  fenster.ZeigeZumLesen();
+  for (const char *inhalt : {"", "#!/bin/sh\nexit 3\n"}) {
+    if (*inhalt) {
+      Lege(oeffner, inhalt);
+      QFile::setPermissions(oeffner, QFile::ReadOwner | QFile::ExeOwner);
     }
-    qputenv("PATH", programme.path().toUtf8());
-    const bool geht = oeffner == "exit 0";
     bool gesagt = false;
-    if (!geht)
-      Dann<QMessageBox>([&](QMessageBox &meldung) {
-        gesagt = meldung.text().endsWith("/Bestespieler.pdf");
-        meldung.close();
-      });
-    Druecke(fenster, "F1");
-    EXPECT_NE(QTest::qWaitFor([&] { return gesagt; }, geht ? 300 : 5000), geht) << oeffner.data();
+    Dann<QMessageBox>([&](QMessageBox &meldung) {
+      gesagt = meldung.text().endsWith("/Bestespieler.pdf");
+      meldung.close();
+    });
+    QKeyEvent taste(QEvent::KeyPress, Qt::Key_F1, {});
+    QApplication::sendEvent(&fenster, &taste);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return gesagt; })) << inhalt;
   }
   qputenv("PATH", suchpfad);
 }

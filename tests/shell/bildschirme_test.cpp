@@ -98,46 +98,30 @@ class Bildschirme : public testing::Test {
 /// Name and size of a picture.
 QString Groesse(const QString &bild) {
   const QSize groesse = Katalogbild(bild, 1).size();
-  return bild.isEmpty() ? ""
-                        : QString("%1 %2x%3").arg(bild).arg(groesse.width()).arg(groesse.height());
+  return QString("%1 %2x%3").arg(bild).arg(groesse.width()).arg(groesse.height());
 }
 
 /// What a player sees and hears of a control, apart from its pixels.
 QString Beschreibung(QWidget &element) {
-  const QRect lage = element.geometry();
-  QStringList teile{
-      element.objectName(),
-      QString("%1,%2 %3x%4").arg(lage.x()).arg(lage.y()).arg(lage.width()).arg(lage.height())};
-  const auto Schriftbild = [&teile](const QWidget &text) {
-    const QString farbe = text.palette().color(QPalette::WindowText).name();
-    teile << QString("%1px%2 %3")
-                 .arg(text.font().pixelSize())
-                 .arg(text.font().bold() ? " fett" : "", farbe);
-  };
+  auto &zugang = *QAccessible::queryAccessibleInterface(&element);
+  const auto Farbe = [&](auto rolle) { return element.palette().color(rolle).name(); };
+  QString text;
+  QDebug aus(&text);
+  aus.noquote() << element.objectName() << element.geometry() << zugang.role()
+                << zugang.text(QAccessible::Name).replace('\n', "\\n") << element.toolTip()
+                << (element.isHidden() ? "verborgen" : "")
+                << (zugang.state().checked ? "gewählt" : "");
   if (auto *bild = qobject_cast<Bild *>(&element)) {
-    const QString name = bild->Bildname();
+    aus << Groesse(bild->Bildname()) << zugang.actionInterface()->actionNames()
+        << (bild->cursor().shape() == Qt::BitmapCursor ? "Hand" : "");
     QMouseEvent druck(QEvent::MouseButtonPress, {}, {}, Qt::LeftButton, Qt::LeftButton, {});
     QApplication::sendEvent(bild, &druck);
-    teile << QMetaEnum::fromType<QAccessible::Role>().valueToKey(bild->Rolle())
-          << (Katalogbild(name, 1).size() == bild->size() ? name : Groesse(name))
-          << QString(bild->Bildname() == name ? "" : Groesse(bild->Bildname())) << bild->Ansage()
-          << QString(bild->IstGewaehlt() ? "gewählt" : "")
-          << QString(bild->IstBedienbar() ? "bedienbar" : "")
-          << QString(bild->cursor().shape() == Qt::BitmapCursor ? "Hand" : "");
-  } else if (const auto *ziffern = qobject_cast<const Zifferreihe *>(&element)) {
-    teile << ziffern->Ansage();
-  } else if (const auto *text = qobject_cast<const QLabel *>(&element)) {
-    Schriftbild(*text);
-    teile << QString::number(text->alignment(), 16) << text->text().replace('\n', "\\n");
-  } else if (const auto *zeile = qobject_cast<const QLineEdit *>(&element)) {
-    Schriftbild(*zeile);
-    teile << zeile->accessibleName() << zeile->text();
+    aus << bild->Bildname();
   } else {
-    teile << element.palette().color(QPalette::Window).name();
+    aus << element.font().pixelSize() << element.font().bold() << Farbe(QPalette::WindowText)
+        << Farbe(QPalette::Window) << element.property("alignment").toInt();
   }
-  teile << element.toolTip() << QString(element.isHidden() ? "verborgen" : "");
-  teile.removeAll("");
-  return teile.join(" | ");
+  return text.trimmed();
 }
 
 TEST_F(Bildschirme, AllesStehtWieEsImInventarSteht) {
@@ -147,7 +131,8 @@ TEST_F(Bildschirme, AllesStehtWieEsImInventarSteht) {
     const int geladen = GeladeneBilder();
     fenster.grab();
     EXPECT_EQ(GeladeneBilder(), geladen) << "a picture that is missing is looked for again";
-    zeilen << "" << QString("»%1« ").arg(fenster.window()->windowTitle()) + Beschreibung(fenster);
+    zeilen << ""
+           << "»" + fenster.window()->windowTitle() + "« " + Beschreibung(fenster);
     for (QWidget *element : fenster.findChildren<QWidget *>()) {
       static const QRegularExpression ort("^img(Sar|Diggi)(\\d+)$");
       const auto nummer = ort.match(element->objectName());
@@ -215,18 +200,12 @@ TEST_F(Fensterprobe, AufEinemDichterenSchirmWerdenDieBilderScharf) {
   EXPECT_EQ(Mitte(Finde(*spielfeld, "imgSar1")->grab()), Mitte(Katalogbild("platte1", 2)));
 }
 
-TEST_F(Fensterprobe, MeldungenKuerzenEinenLangenPfadUndWerdenNichtAmTextGegriffen) {
+TEST_F(Fensterprobe, EineMeldungKuerztEinenLangenPfad) {
   spiel.Datenordner = "/heim/" + std::string(200, 'x') + "/nachtkammern";
   Dann<frmMsgJa>([](frmMsgJa &fenster) {
     const QRegularExpression gekuerzt(
         "^Im Ordner /heim/x+….*/nachtkammern\nbefindet .*Spielstand!$");
     EXPECT_TRUE(gekuerzt.match(Text(fenster, "lblMeldung")).hasMatch());
-    QWidget *panel = Finde<QWidget>(fenster, "lblMeldung")->parentWidget();
-    for (QWidget *element : {panel, panel->window()}) {
-      QMouseEvent druck(QEvent::MouseButtonPress, {}, {}, Qt::LeftButton, Qt::LeftButton, {});
-      QApplication::sendEvent(element, &druck);
-      EXPECT_EQ(druck.isAccepted(), element == &fenster);
-    }
     fenster.close();
   });
   spielfeld->Frage(FrageSucheSpielstand());
