@@ -37,17 +37,13 @@ class Spielstand : public Umgebung {
   }
 };
 
-TEST_F(Spielstand, SchreibtByteFuerByte) {
+TEST_F(Spielstand, SchreibtByteFuerByteUndLaedtInEineSaubereSpielphase) {
   SpeichereSpielstand(ansicht, pfad);
   EXPECT_EQ(Inhalt(pfad), "7\r\n3350\r\n2\r\n");
-  EXPECT_EQ(spiel.Punkte, 2900);
-  EXPECT_TRUE(ansicht.meldungen.empty());
-}
-
-TEST_F(Spielstand, LaedtInEineSaubereSpielphase) {
+  ErwarteSpiel(7, 2900, 450, 2);
   Lege(pfad, "3\n4711\n3");  // In this level no start cell writes over the text.
-  const auto phase = {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern};
-  for (const Bedienung b : phase)
+  for (const Bedienung b :
+       {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern})
     ansicht.Zeige(b, true);
   ansicht.speichernErlaubt = true;
   ansicht.timer = {{Pfeil::Start, 300}, {Pfeil::Weiter, 400}};
@@ -57,8 +53,8 @@ TEST_F(Spielstand, LaedtInEineSaubereSpielphase) {
   ErwarteSpiel(4, 4711, 0, 3);
   EXPECT_EQ(spiel.SarantenRest, 72);
   EXPECT_TRUE(ansicht.modustext.starts_with("Spielmodus:  Experte"));
-  for (const Bedienung b : phase)
-    EXPECT_FALSE(ansicht.IstSichtbar(b));
+  for (const auto &[bedienung, sichtbar] : ansicht.sichtbar)
+    EXPECT_FALSE(sichtbar);
   EXPECT_FALSE(ansicht.speichernErlaubt);
   EXPECT_EQ(ansicht.timer[Pfeil::Start] + ansicht.timer[Pfeil::Weiter], 0);
 }

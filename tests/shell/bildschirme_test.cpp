@@ -34,15 +34,9 @@ void ErwarteAllesIstDrin(const QWidget &fenster) {
   }
 }
 
-class Bildschirme : public testing::Test {
+class Bildschirme : public Fensterprobe {
  protected:
-  Bildschirme() {
-    spiel = {};
-    spiel.Punkte = 99999;
-    spiel.DatenordnerAktiv = true;
-    spiel.Datenordner = ordner.path().toStdString();
-    BestenlisteAnlegen();
-  }
+  Bildschirme() { spiel.Punkte = 99999; }
   ~Bildschirme() override { StelleMassstab(1); }
 
   /// Makes each window once.
@@ -57,14 +51,10 @@ class Bildschirme : public testing::Test {
     frmOptionen optionen(&hauptfenster, hauptfenster);
     tue(optionen);
     tue(hauptfenster.Bestenfenster());
-    for (const Meldung &meldung : Fragen()) {
-      frmMsgJa fenster(meldung);
-      tue(fenster);
-    }
-    for (const Meldung &meldung : Ansagen()) {
-      frmMsgOk fenster(meldung);
-      tue(fenster);
-    }
+    for (const Meldung &meldung : Fragen())
+      tue(*std::make_unique<frmMsgJa>(meldung));
+    for (const Meldung &meldung : Ansagen())
+      tue(*std::make_unique<frmMsgOk>(meldung));
   }
   static std::vector<Meldung> Fragen() {
     return {FrageNeuesSpiel(),
@@ -91,8 +81,6 @@ class Bildschirme : public testing::Test {
             MeldungBesteNichtGespeichert(),
             MeldungKeineSoundkarte()};
   }
-
-  QTemporaryDir ordner;
 };
 
 /// Name and size of a picture.
