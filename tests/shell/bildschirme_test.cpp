@@ -107,7 +107,8 @@ QString Beschreibung(QWidget &element) {
     aus << bild->Bildname();
   } else {
     aus << element.font().pixelSize() << element.font().bold() << Farbe(QPalette::WindowText)
-        << Farbe(QPalette::Window) << element.property("alignment").toInt();
+        << (element.autoFillBackground() ? Farbe(QPalette::Window) : "")
+        << element.property("alignment").toInt();
   }
   return text.trimmed();
 }

@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include "controls/bilder.h"
+#include "controls/zifferreihe.h"
 #include "dialogs/frmBeste.h"
 #include "dialogs/frmHintergrund.h"
 #include "dialogs/frmOptionen.h"
@@ -52,6 +53,9 @@ TEST_F(Spielfeld, ZeigtBeimSpielenAllesSofortUndEntziffertKeinBildMehr) {
     Klick("imgNeuesSpiel");
     ErwarteNeuGezeichnet();
     Verliere();
+    const QImage fehler = spielfeld->findChildren<Zifferreihe *>().back()->grab().toImage();
+    EXPECT_EQ(fehler.copy(14, 0, 14, 28).convertToFormat(QImage::Format_RGB32),
+              Katalogbild("rot2", 1).toImage().convertToFormat(QImage::Format_RGB32));
     Klick("cmdWiederholen");
     EXPECT_EQ(spiel.Punkte, 400);
     ErwarteNeuGezeichnet();
