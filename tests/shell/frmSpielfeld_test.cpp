@@ -26,6 +26,7 @@ TEST_F(Spielfeld, StehtInDerMitteVorEinemHintergrundDerEsZurueckholt) {
   }
   ASSERT_NE(hintergrund, nullptr);
   EXPECT_EQ(hintergrund->geometry(), spielfeld->screen()->geometry());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return hintergrund->updatesEnabled(); }));
   Dann<frmMsgJa>([&](frmMsgJa &fenster) {
     spielfeld->showMinimized();
     Klick(hintergrund);
