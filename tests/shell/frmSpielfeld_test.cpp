@@ -17,6 +17,7 @@ using Spielfeld = Fensterprobe;
 TEST_F(Spielfeld, StehtInDerMitteVorEinemHintergrundDerEsZurueckholt) {
   EXPECT_EQ(Finde(*spielfeld, "frmSpielfeld")->size(), QSize(878, 729));
   EXPECT_EQ(Finde(*spielfeld, "imgZeigeStart")->Bildname(), "pfeilhoch0");
+  EXPECT_EQ(spiel.Bestenschwelle, 13000);
   const QPoint mitte = spielfeld->screen()->availableGeometry().center();
   EXPECT_LE((spielfeld->frameGeometry().center() - mitte).manhattanLength(), 2);
   QWidget *hintergrund = nullptr;
