@@ -45,6 +45,8 @@ void Bildfenster::showEvent(QShowEvent *ereignis) {
     if (bild->IstBedienbar())
       bild->setFocusPolicy(QAccessible::isActive() ? Qt::TabFocus : Qt::NoFocus);
   }
+  if (!ereignis->spontaneous())
+    setFocus();  // Qt would give it to the first button.
   QDialog::showEvent(ereignis);
 }
 
