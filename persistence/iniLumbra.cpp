@@ -1,7 +1,7 @@
 #include "persistence/iniLumbra.h"
 
 #include "persistence/modCdVersion.h"
-#include "platform/textdatei.h"
+#include "persistence/textdatei.h"
 
 namespace {
 

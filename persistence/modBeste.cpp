@@ -3,7 +3,7 @@
 #include <QStringList>
 
 #include "persistence/modCdVersion.h"
-#include "platform/textdatei.h"
+#include "persistence/textdatei.h"
 
 namespace {
 

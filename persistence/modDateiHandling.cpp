@@ -10,7 +10,7 @@
 #include "persistence/iniLumbra.h"
 #include "persistence/modCdVersion.h"
 #include "platform/modOpenSave.h"
-#include "platform/textdatei.h"
+#include "persistence/textdatei.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 /// @file
-/// The code page of the text files: one byte a character on most machines.
+/// The code page of the text files.
 ///
 /// Windows: the ANSI code page of the machine. Other systems: Windows-1252.
 /// Source of the latter: WHATWG Encoding Standard, index windows-1252.
@@ -8,8 +8,8 @@
 #include <QByteArray>
 #include <QString>
 
-/// Decodes a line; every byte, NUL included, stands for something.
+/// Decodes a line. Every byte, NUL included, stands for a character.
 QString AusCodepage(const QByteArray &bytes);
 
-/// Encodes a character; "?" if the code page lacks it.
+/// Encodes a character; empty if the code page lacks it.
 QByteArray InCodepage(char32_t zeichen);

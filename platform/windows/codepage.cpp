@@ -4,14 +4,6 @@
 
 #include <array>
 
-#include "platform/windows/zeichenumwandlung.h"
-
-namespace {
-
-constexpr int kLaengstesZeichen = 8;  ///< Bytes of a character in any ANSI code page, and to spare.
-
-}  // namespace
-
 QString AusCodepage(const QByteArray &bytes) {
   const int anzahl = static_cast<int>(bytes.size());
   std::wstring text(static_cast<std::size_t>(anzahl), L'\0');  // Never longer than its bytes.
@@ -20,12 +12,13 @@ QString AusCodepage(const QByteArray &bytes) {
 }
 
 QByteArray InCodepage(char32_t zeichen) {
-  const std::wstring text = QString::fromUcs4(&zeichen, 1).toStdWString();
-  std::array<char, kLaengstesZeichen> bytes{};
-  const Zeichenumwandlung umwandlung = UmwandlungIn(GetACP());
-  BOOL ersetzt = FALSE;
-  const int anzahl = WideCharToMultiByte(
-      CP_ACP, umwandlung.Flags, text.data(), static_cast<int>(text.size()), bytes.data(),
-      kLaengstesZeichen, umwandlung.Ersatz ? "?" : nullptr, umwandlung.Ersatz ? &ersetzt : nullptr);
-  return anzahl <= 0 || ersetzt ? QByteArray("?") : QByteArray(bytes.data(), anzahl);
+  const QString text = QString::fromUcs4(&zeichen, 1);
+  std::array<char, 8> bytes{};  // Room for a character of any code page.
+  const int anzahl =
+      WideCharToMultiByte(CP_ACP, 0, text.toStdWString().c_str(), static_cast<int>(text.size()),
+                          bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
+  // Windows writes a similar character for one that the code page lacks. Its own test for that is
+  // not allowed in UTF-8, which may be the code page.
+  const QByteArray kodiert(bytes.data(), anzahl);
+  return AusCodepage(kodiert) == text ? kodiert : QByteArray();
 }

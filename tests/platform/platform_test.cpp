@@ -2,9 +2,8 @@
 
 #include <QTemporaryDir>
 
+#include "persistence/textdatei.h"
 #include "platform/modExistiertDatei.h"
-#include "platform/textdatei.h"
-#include "platform/windows/zeichenumwandlung.h"
 #include "tests/platform/dateien.h"
 
 class Platform : public testing::Test {
@@ -45,13 +44,6 @@ TEST_F(Platform, Zeilenenden) {
   }
 }
 
-// Windows refuses every character if it is asked for more than the code page can.
-TEST_F(Platform, Utf8KenntKeinErsatzzeichen) {
-  EXPECT_TRUE(UmwandlungIn(1252).Ersatz);
-  EXPECT_FALSE(UmwandlungIn(kUtf8).Ersatz);
-  EXPECT_EQ(UmwandlungIn(kUtf8).Flags & ~0x80UL, 0UL);  // All that it allows is to fail.
-}
-
 TEST_F(Platform, CodepageHinUndZurueck) {
   QByteArray alle;
   for (int byte = 0; byte < 256; ++byte)
@@ -62,6 +54,7 @@ TEST_F(Platform, CodepageHinUndZurueck) {
   EXPECT_TRUE(gelesen.Zeilen.value(0).contains("€\u0081‚ƒ"));
   ASSERT_EQ(SchreibeZeilen(pfad, gelesen.Zeilen), Dateifehler::Keiner);
   EXPECT_EQ(Inhalt(pfad), alle + "\r\n");
+  EXPECT_EQ(Speicherbar("Ju\u0308rg €\U0001F600 Ł\r\n?"), "Jürg € ?");
   SchreibeZeilen(pfad, {"Jörg € »ß« 😀 Ł", "a\r\nb", ""});
   EXPECT_EQ(Inhalt(pfad), "J\xF6rg \x80 \xBB\xDF\xAB ? ?\r\na??b\r\n\r\n");
 }

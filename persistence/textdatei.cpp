@@ -1,4 +1,4 @@
-#include "platform/textdatei.h"
+#include "persistence/textdatei.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -10,9 +10,17 @@
 
 namespace {
 
-/// Within a line it would shift all lines behind it.
-bool IstZeilenende(char32_t zeichen) {
-  return zeichen == U'\r' || zeichen == U'\n';
+/// The bytes of a text within a line.
+/// @param ersatz   in place of a character that the code page lacks, and of a line end, which would
+///                 shift all following lines.
+QByteArray Kodiert(const QString &text, const QByteArray &ersatz) {
+  QByteArray bytes;
+  for (const char32_t zeichen : text.normalized(QString::NormalizationForm_C).toUcs4()) {
+    const bool zeilenende = zeichen == U'\r' || zeichen == U'\n';
+    const QByteArray kodiert = zeilenende ? QByteArray() : InCodepage(zeichen);
+    bytes.append(kodiert.isEmpty() ? ersatz : kodiert);
+  }
+  return bytes;
 }
 
 /// Folders, pipes and devices bear names of files, but opening them may wait for ever, and
@@ -88,12 +96,13 @@ Dateifehler SchreibeZeilen(const QString &pfad, const QStringList &zeilen) {
   if (IstKeineDatei(pfad))
     return Dateifehler::ZugriffVerweigert;
   QByteArray inhalt;
-  for (const QString &zeile : zeilen) {
-    for (const char32_t zeichen : zeile.toUcs4())
-      inhalt.append(InCodepage(IstZeilenende(zeichen) ? U'?' : zeichen));
-    inhalt.append("\r\n");
-  }
+  for (const QString &zeile : zeilen)
+    inhalt.append(Kodiert(zeile, "?") + "\r\n");
   return ErsetzeDatei(pfad, inhalt);
+}
+
+QString Speicherbar(const QString &text) {
+  return AusCodepage(Kodiert(text, ""));
 }
 
 Dateifehler LiesZahl(const QString &text, std::int16_t &wert) {

@@ -23,9 +23,14 @@ struct Textzeilen {
 /// @param anzahl   lines to be read; what follows them is not looked at. Fewer lines: `Dateiende`.
 Textzeilen LiesZeilen(const QString &pfad, int anzahl);
 
-/// Replaces a file by these lines, each ended by CR LF, as a whole or not at all. Characters that
-/// the code page lacks and line ends within a text are written as "?".
+/// Replaces a file by these lines, each ended by CR LF, as a whole or not at all. Combining
+/// characters are composed where Unicode can (NFC). A character that the code page lacks and a line
+/// end within a text are written as "?".
 Dateifehler SchreibeZeilen(const QString &pfad, const QStringList &zeilen);
+
+/// What a file can hold of a line: combining characters composed (NFC), all other characters that
+/// the code page lacks left out. SchreibeZeilen() writes the result without any "?".
+QString Speicherbar(const QString &text);
 
 /// Converts decimal digits with an optional leading "-" and blanks around them. On a failure,
 /// `KeineZahl` or `Zahlenbereich`, the value is left alone.
