@@ -34,7 +34,7 @@ constexpr double kMenueschrift = 9.75;  ///< Points at 96 dpi.
 
 double Schrumpffaktor() {
   const QSize frei = QGuiApplication::primaryScreen()->availableSize() - kRahmen -
-                     (StapeltFenster() ? QSize(0, 0) : kLeiste);
+                     (IstWayland() ? kLeiste : QSize(0, 0));
   return std::min(
       {1.0, 1.0 * frei.width() / kFlaeche.width(), 1.0 * frei.height() / kFlaeche.height()});
 }
@@ -69,7 +69,7 @@ void Main(frmSpielfeld &fenster, const QString &datenwurzel) {
     BestenlisteAnlegen();
   BestenlisteLaden(fenster);
   WarteAufSpiel(fenster);
-  if (StapeltFenster()) {  // The cover goes first, so that the main window ends up above it.
+  if (!IstWayland()) {  // The cover goes first, so that the main window ends up above it.
     auto *hintergrund = new frmHintergrund(&fenster);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, hintergrund, &QObject::deleteLater);
     hintergrund->show();

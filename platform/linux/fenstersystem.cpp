@@ -26,14 +26,14 @@ const char *const kOhneBildschirm =
     "Glanzgrube findet keinen Bildschirm. In einer Wayland-Sitzung braucht das Spiel das Paket "
     "»qt6-wayland« oder »xwayland«.";
 
-bool StapeltFenster() {
-  return !QGuiApplication::platformName().startsWith("wayland");
+bool IstWayland() {
+  return QGuiApplication::platformName().startsWith("wayland");
 }
 
 void OhneTaskleiste(QWindow *fenster) {
   auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   xcb_connection_t *verbindung = x11 ? x11->connection() : nullptr;
-  if (!verbindung)  // Not on an X server: other platforms have the interface without a connection.
+  if (!verbindung)  // The interface also exists without an X server.
     return;
   const std::array<xcb_atom_t, 2> zustaende{Atom(verbindung, "_NET_WM_STATE_SKIP_TASKBAR"),
                                             Atom(verbindung, "_NET_WM_STATE_SKIP_PAGER")};
