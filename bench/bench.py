@@ -1,6 +1,6 @@
 """Measures the program from outside and writes the table of results.
 
-usage: tests/spieler/buehne ../../bench/bench.py BUILD_DIRECTORY RESULT.md
+usage: tests/driver/stage ../../bench/bench.py BUILD_DIRECTORY RESULT.md
 """
 
 import json
@@ -13,11 +13,11 @@ import sys
 import time
 from pathlib import Path
 
-from modell import VERDECKT
-from ohr import Ohr
-from sinne import warte
-from spieler import Spieler, lege_ab
-from stoppuhr import GRENZE, Stoppuhr
+from model import VERDECKT
+from audio import Ohr
+from senses import warte
+from driver import Spieler, lege_ab
+from stopwatch import GRENZE, Stoppuhr
 
 RUHE = 20.0  # seconds over which an idle minute is measured
 STARTS = 21

@@ -11,7 +11,7 @@
 #include "platform/datenwurzel.h"
 #include "shell/frmSpielfeld.h"
 #include "shell/iniMain.h"
-#include "tests/feldansicht.h"
+#include "tests/array_screen.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ constexpr int kModusEinfach = 1;
 
 /// Sets up the level given as argument, with its numbers and its panel.
 void LevelAufbau(benchmark::State &state) {
-  FeldAnsicht ansicht;
+  ArrayScreen ansicht;
   for (auto _ : state)
     SpielAbLevelBeginnen(ansicht, static_cast<int>(state.range(0)) - 1, kModusEinfach);
 }
@@ -27,7 +27,7 @@ BENCHMARK(LevelAufbau)->Arg(1)->Arg(20)->Arg(40)->Unit(benchmark::kMicrosecond);
 
 template <void (*Schritt)(Ansicht &)>
 void AufLevel1(benchmark::State &state) {
-  FeldAnsicht ansicht;
+  ArrayScreen ansicht;
   SpielAbLevelBeginnen(ansicht, 0, kModusEinfach);
   for (auto _ : state)
     Schritt(ansicht);

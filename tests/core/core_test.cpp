@@ -10,7 +10,7 @@
 #include "core/zahlen.h"
 #include "core/zufall.h"
 #include "core/zug.h"
-#include "tests/feldansicht.h"
+#include "tests/array_screen.h"
 
 namespace {
 
@@ -41,12 +41,12 @@ class Kern : public testing::Test {
     spiel.Punkte = kStartpunkte;
     ZeigeStatus(ansicht);
   }
-  void Klick(int zelle, int taste = kLinkeTaste) { imgSar_MouseDown(ansicht, zelle, taste); }
+  void Click(int zelle, int taste = kLinkeTaste) { imgSar_MouseDown(ansicht, zelle, taste); }
   /// Presses covered cells with or without a gem until the level has ended that way.
   void SpieleLevel(bool saranten, Bedienung ende) {
     for (int zelle = 1; zelle <= kZellen; ++zelle)
       if (Feld(zelle).IstSarant == saranten && ansicht.LiesKachel(zelle) == Kachel::Verdeckt)
-        Klick(zelle);
+        Click(zelle);
     ASSERT_TRUE(ansicht.IstSichtbar(ende));
   }
   void GewinneLevel() { SpieleLevel(true, Bedienung::imgNextLevel); }
@@ -72,7 +72,7 @@ class Kern : public testing::Test {
   /// Errors, rest and level, two places each.
   std::string Auswertung() { return ansicht.Reihe(Panelreihe::imgAuswertung, 0, 5); }
 
-  FeldAnsicht ansicht;
+  ArrayScreen ansicht;
 };
 
 TEST_F(Kern, SchreibtPunkteRechtsbuendigUndLaesstDieEinerSonstStehen) {
@@ -123,7 +123,7 @@ TEST_F(Kern, EinZugFolgtDerTafelDerUebergaenge) {
     ansicht.SetzeKachel(fall.zelle, fall.vorher);
     ansicht.modustext = "alt";
     ansicht.klaenge.clear();
-    Klick(fall.zelle, fall.taste);
+    Click(fall.zelle, fall.taste);
     EXPECT_EQ(ansicht.LiesKachel(fall.zelle), fall.nachher);
     EXPECT_EQ(ansicht.klaenge, std::vector<int>(fall.klang != kKeinKlang, fall.klang));
     EXPECT_EQ(ansicht.modustext, fall.neuerText ? Moduszeile(3) : "alt");
@@ -135,19 +135,19 @@ TEST_F(Kern, EinZugFolgtDerTafelDerUebergaenge) {
 TEST_F(Kern, DerZweiteFehlerVerliertDasLevel) {
   LegeBrett({2, 3, 4});
   for (const int zelle : {2, 1, 1})
-    Klick(zelle);
+    Click(zelle);
   EXPECT_EQ(Auswertung(), "[_][1]_2_1");
   EXPECT_FALSE(ansicht.IstSichtbar(Bedienung::cmdWiederholen));
   ansicht.klaenge.clear();
-  Klick(kZellen);
+  Click(kZellen);
   EXPECT_TRUE(ansicht.IstSichtbar(Bedienung::cmdWiederholen));
   EXPECT_EQ(ansicht.klaenge, (std::vector{kKlangFehler, kKlangFehler}));
   EXPECT_EQ(ansicht.timer[Pfeil::Weiter], 400);
   EXPECT_EQ(ansicht.modustext, "Klicken Sie auf »Wiederholen«");
   EXPECT_EQ(Auswertung() + Levelpunkte(), "[_][2]_2_1[1][0][0]");
   EXPECT_EQ(spiel.Punkte, 500);
-  Klick(3);
-  Klick(60, kRechteTaste);
+  Click(3);
+  Click(60, kRechteTaste);
   EXPECT_EQ(Zaehle(Kachel::Verdeckt), kZellen - 3);
 }
 
@@ -166,7 +166,7 @@ TEST_F(Kern, DieLetzteSaranteGewinntAuchNebenEinemFehler) {
     spiel.Spielmodus = modus;
     spiel.Punkte = punkte;
     for (const int zelle : {99, 10, 11})
-      Klick(zelle);
+      Click(zelle);
     for (const Bedienung b : {Bedienung::imgNextLevel, Bedienung::imgSpeichern})
       EXPECT_TRUE(ansicht.IstSichtbar(b));
     EXPECT_TRUE(ansicht.speichernErlaubt);
@@ -176,7 +176,7 @@ TEST_F(Kern, DieLetzteSaranteGewinntAuchNebenEinemFehler) {
     EXPECT_EQ(Levelpunkte(), levelpunkte);
     EXPECT_EQ(Punkte(), gezeigt);
     EXPECT_EQ(spiel.Punkte, punkte);
-    Klick(98);
+    Click(98);
     EXPECT_EQ(ansicht.LiesKachel(98), Kachel::Verdeckt);
   }
 }

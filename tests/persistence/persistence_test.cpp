@@ -3,9 +3,9 @@
 #include "core/befehle.h"
 #include "persistence/iniLumbra.h"
 #include "persistence/modDateiHandling.h"
-#include "tests/persistence/umgebung.h"
+#include "tests/persistence/fixture.h"
 
-TEST_F(Umgebung, LiestDenModusUndLaesstDieDateiStehen) {
+TEST_F(DataFixture, LiestDenModusUndLaesstDieDateiStehen) {
   const std::map<std::pair<int, bool>, std::vector<QByteArray>> faelle = {
       {{1, true}, {"1\r\n"}},
       {{2, true}, {"-1\r\n"}},
@@ -13,22 +13,22 @@ TEST_F(Umgebung, LiestDenModusUndLaesstDieDateiStehen) {
       {{3, true}, {"3\nmehr"}}};
   for (const auto &[ergebnis, dateien] : faelle) {
     for (const QByteArray &bytes : dateien) {
-      Lege(IniPfad(), bytes);
+      WriteFile(IniPfad(), bytes);
       spiel.Spielmodus = 1;
       ansicht.modustext.clear();
       LeseIni(ansicht);
       EXPECT_EQ(spiel.Spielmodus, ergebnis.first) << bytes.left(20).data();
       EXPECT_EQ(ansicht.modustext, ergebnis.second ? Moduszeile(3) : "") << bytes.left(20).data();
-      EXPECT_EQ(Inhalt(IniPfad()), bytes);
+      EXPECT_EQ(ReadFile(IniPfad()), bytes);
     }
     SchreibeIni();
-    EXPECT_EQ(Inhalt(IniPfad()), QByteArray::number(ergebnis.first) + "\r\n");
+    EXPECT_EQ(ReadFile(IniPfad()), QByteArray::number(ergebnis.first) + "\r\n");
   }
 }
 
-class Spielstand : public Umgebung {
+class Spielstand : public DataFixture {
  protected:
-  QString pfad = temporaer.filePath("spiel.sar");
+  QString pfad = folder.filePath("spiel.sar");
 
   Spielstand() {
     spiel.Level = 7;
@@ -39,9 +39,9 @@ class Spielstand : public Umgebung {
 
 TEST_F(Spielstand, SchreibtByteFuerByteUndLaedtInEineSaubereSpielphase) {
   SpeichereSpielstand(ansicht, pfad);
-  EXPECT_EQ(Inhalt(pfad), "7\r\n3350\r\n2\r\n");
-  ErwarteSpiel(7, 2900, 450, 2);
-  Lege(pfad, "3\n4711\n3");  // In this level no start cell writes over the text.
+  EXPECT_EQ(ReadFile(pfad), "7\r\n3350\r\n2\r\n");
+  ExpectGame(7, 2900, 450, 2);
+  WriteFile(pfad, "3\n4711\n3");  // In this level no start cell writes over the text.
   for (const Bedienung b :
        {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern})
     ansicht.Zeige(b, true);
@@ -49,8 +49,8 @@ TEST_F(Spielstand, SchreibtByteFuerByteUndLaedtInEineSaubereSpielphase) {
   ansicht.timer = {{Pfeil::Start, 300}, {Pfeil::Weiter, 400}};
   ansicht.antworten = {kJa};
   LadeGewaehlteDatei(ansicht, pfad);
-  ErwarteMeldung(FrageLaden(4, 3, "4711"));
-  ErwarteSpiel(4, 4711, 0, 3);
+  ExpectMessage(FrageLaden(4, 3, "4711"));
+  ExpectGame(4, 4711, 0, 3);
   EXPECT_EQ(spiel.SarantenRest, 72);
   EXPECT_TRUE(ansicht.modustext.starts_with("Spielmodus:  Experte"));
   for (const auto &[bedienung, sichtbar] : ansicht.sichtbar)
@@ -61,11 +61,11 @@ TEST_F(Spielstand, SchreibtByteFuerByteUndLaedtInEineSaubereSpielphase) {
 
 TEST_F(Spielstand, VorDemJaBleibtDasSpielWieEsWar) {
   const auto Pruefe = [&](const QByteArray &bytes, const Meldung &meldung) {
-    Lege(pfad, bytes);
+    WriteFile(pfad, bytes);
     ansicht.timer = {{Pfeil::Weiter, 300}};
     LadeSpielstand(ansicht, pfad);
-    ErwarteMeldung(meldung, bytes.left(20));
-    ErwarteSpiel(7, 2900, 450, 2);
+    ExpectMessage(meldung, bytes.left(20));
+    ExpectGame(7, 2900, 450, 2);
     EXPECT_EQ(ansicht.timer[Pfeil::Weiter], 300);
   };
   Pruefe(" 000 \r\n500\r\n1\r\n", FrageLaden(1, 1, "500"));
@@ -86,18 +86,18 @@ TEST_F(Spielstand, VorDemJaBleibtDasSpielWieEsWar) {
 }
 
 TEST_F(Spielstand, NachDemJaEndetDasSpielOderScheitertAnPunktenOhneWert) {
-  Lege(pfad, "3\r\n2147483648\r\n1\r\n");
+  WriteFile(pfad, "3\r\n2147483648\r\n1\r\n");
   ansicht.antworten = {kJa, kJa};
   LadeSpielstand(ansicht, pfad);
   ansicht.meldungen.erase(ansicht.meldungen.begin());
-  ErwarteMeldung(MeldungLesefehler(7));
-  ErwarteSpiel(3, 2900, 450, 2);
-  Lege(pfad, "32766\r\n500\r\n2\r\n");
+  ExpectMessage(MeldungLesefehler(7));
+  ExpectGame(3, 2900, 450, 2);
+  WriteFile(pfad, "32766\r\n500\r\n2\r\n");
   LadeSpielstand(ansicht, pfad);
   EXPECT_TRUE(ansicht.beendet);
 }
 
-class Beste : public Umgebung {
+class Beste : public DataFixture {
  protected:
   Beste() {
     BestenlisteAnlegen();
@@ -112,9 +112,9 @@ class Beste : public Umgebung {
 
 TEST_F(Beste, NurEinAngenommenerPlatzIstEinEintrag) {
   Spiele(13000, kJa);
-  ErwarteMeldung(MeldungKeinBesteneintrag());
+  ExpectMessage(MeldungKeinBesteneintrag());
   Spiele(13001, kNein);
-  ErwarteMeldung(FrageBesteneintrag());
+  ExpectMessage(FrageBesteneintrag());
   EXPECT_EQ(spiel.Beste.BestenPlatz, 4);
   EXPECT_FALSE(spiel.Beste.BestenEintrag);
 }
@@ -135,15 +135,15 @@ TEST_F(Beste, BeschaedigteDateiBleibtUndLaesstWeiterspielen) {
   };
   for (const auto &fall : faelle) {
     spiel.Bestenschwelle = 77;
-    Lege(BestenlistePfad(), fall.bytes);
+    WriteFile(BestenlistePfad(), fall.bytes);
     BestenlisteLaden(ansicht);
     if (fall.nummer != 0) {
-      ErwarteMeldung(MeldungBesteNichtGelesen(fall.nummer), fall.bytes.left(30));
+      ExpectMessage(MeldungBesteNichtGelesen(fall.nummer), fall.bytes.left(30));
       EXPECT_EQ(spiel.Bestenschwelle, 77);
     }
     EXPECT_EQ(static_cast<int>(spiel.Beste.lstName.size()), fall.namen);
     EXPECT_EQ(static_cast<int>(spiel.Beste.lstPunkte.size()), fall.punkte);
-    EXPECT_EQ(Inhalt(BestenlistePfad()), fall.bytes);
+    EXPECT_EQ(ReadFile(BestenlistePfad()), fall.bytes);
     Spiele(550, kJa);
     EXPECT_EQ(spiel.Beste.BestenPlatz, fall.platz) << fall.bytes.left(30).data();
     BestenlisteSpeichern(ansicht);

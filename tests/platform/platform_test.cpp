@@ -4,19 +4,19 @@
 
 #include "persistence/textdatei.h"
 #include "platform/modExistiertDatei.h"
-#include "tests/platform/dateien.h"
+#include "tests/files.h"
 
 class Platform : public testing::Test {
  protected:
-  QTemporaryDir ordner;
-  QString pfad = ordner.filePath("datei");
+  QTemporaryDir folder;
+  QString pfad = folder.filePath("datei");
 };
 
 TEST_F(Platform, NurEinFehlenderNameImVorhandenenOrdnerFehlt) {
-  Lege(pfad, "");
+  WriteFile(pfad, "");
   for (const char *name : {"", "/datei", "/fehlt/datei", "/datei/x"})
-    EXPECT_TRUE(ExistiertDatei(ordner.path() + name)) << name;
-  EXPECT_FALSE(ExistiertDatei(ordner.path() + "/fehlt"));
+    EXPECT_TRUE(ExistiertDatei(folder.path() + name)) << name;
+  EXPECT_FALSE(ExistiertDatei(folder.path() + "/fehlt"));
   EXPECT_FALSE(ExistiertDatei(""));
 }
 
@@ -37,7 +37,7 @@ TEST_F(Platform, Zeilenenden) {
       {"a\n" + QByteArray(10 << 20, 'x'), {"a"}, Dateifehler::Anderer},
   };
   for (const auto &fall : faelle) {
-    Lege(pfad, fall.bytes);
+    WriteFile(pfad, fall.bytes);
     const Textzeilen gelesen = LiesZeilen(pfad, 2);
     EXPECT_EQ(gelesen.Zeilen, fall.zeilen) << fall.bytes.left(20).data();
     EXPECT_EQ(gelesen.Fehler, fall.fehler) << fall.bytes.left(20).data();
@@ -49,12 +49,12 @@ TEST_F(Platform, CodepageHinUndZurueck) {
   for (int byte = 0; byte < 256; ++byte)
     alle.append(static_cast<char>(byte));
   alle.replace("\n", "").replace("\r", "");
-  Lege(pfad, alle + "\r\n");
+  WriteFile(pfad, alle + "\r\n");
   const Textzeilen gelesen = LiesZeilen(pfad, 1);
   EXPECT_TRUE(gelesen.Zeilen.value(0).contains("€\u0081‚ƒ"));
   ASSERT_EQ(SchreibeZeilen(pfad, gelesen.Zeilen), Dateifehler::Keiner);
-  EXPECT_EQ(Inhalt(pfad), alle + "\r\n");
+  EXPECT_EQ(ReadFile(pfad), alle + "\r\n");
   EXPECT_EQ(Speicherbar("Ju\u0308rg €\U0001F600 Ł\r\n?"), "Jürg € ?");
   SchreibeZeilen(pfad, {"Jörg € »ß« 😀 Ł", "a\r\nb", ""});
-  EXPECT_EQ(Inhalt(pfad), "J\xF6rg \x80 \xBB\xDF\xAB ? ?\r\na??b\r\n\r\n");
+  EXPECT_EQ(ReadFile(pfad), "J\xF6rg \x80 \xBB\xDF\xAB ? ?\r\na??b\r\n\r\n");
 }

@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# Installs a build into an empty folder and checks what a desktop looks for there, that the program
+# loads its libraries from nowhere else than the system does, and what hardens it.
+# usage: install_test.sh BUILD_FOLDER
+set -euo pipefail
+
+bau=$(realpath "$1")
+wurzel=$(mktemp -d)
+trap 'rm -rf "$wurzel"' EXIT
+DESTDIR=$wurzel cmake --install "$bau" --prefix /usr >/dev/null
+cd "$wurzel/usr"
+
+kennung=example.glanzgrube.Glanzgrube
+erwartet=(bin/glanzgrube
+  share/man/man6/glanzgrube.6.gz share/man/de/man6/glanzgrube.6.gz
+  share/doc/glanzgrube/copyright share/doc/glanzgrube/changelog.gz
+  share/glanzgrube/{WHOOSH,FRAGE,FEHLER,BLIP,START,TADA}.WAV
+  share/glanzgrube/{saranten,Meldefenster,Bestespieler}.pdf
+  "share/applications/$kennung.desktop" "share/metainfo/$kennung.metainfo.xml"
+  share/icons/hicolor/{16x16,24x24,32x32,48x48,64x64,128x128,256x256,512x512}/apps/"$kennung.png"
+  "share/icons/hicolor/scalable/apps/$kennung.svg")
+diff <(printf '%s\n' "${erwartet[@]}" | sort) <(find . -type f -printf '%P\n' | sort)
+
+desktop-file-validate "share/applications/$kennung.desktop"
+appstreamcli validate-tree --no-net "$wurzel"
+
+melde() { echo "$*"; exit 1; }
+
+version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$bau/CMakeCache.txt")
+[[ $(zcat share/doc/glanzgrube/changelog.gz) == "glanzgrube ($version) "* ]] ||
+  melde "the changelog does not begin with $version"
+[[ $(grep -m1 '<release ' "share/metainfo/$kennung.metainfo.xml") == *"\"$version\""* ]] ||
+  melde "the AppStream data do not begin with $version"
+
+laufpfad() { readelf -d "$1" | sed -n 's/.*(RU*N*PATH).*\[\(.*\)\]/\1/p'; }
+[ -z "$(laufpfad bin/glanzgrube)" ] || melde "run path: $(laufpfad bin/glanzgrube)"
+# An empty or a relative folder is one below the current folder, whatever that is.
+pfad=$(laufpfad "$bau/bin/glanzgrube")
+[[ -z $pfad || :$pfad: =~ ^(:/[^:]*)+:$ ]] || melde "run path in the build: $pfad"
+
+if grep -q '^CMAKE_BUILD_TYPE:[A-Z]*=Release$' "$bau/CMakeCache.txt"; then
+  merkmale=$(readelf --wide --file-header --dynamic --program-headers --dyn-syms bin/glanzgrube)
+  for merkmal in 'Type: +DYN' 'FLAGS.* NOW' GNU_RELRO __stack_chk_fail; do
+    grep -qE "$merkmal" <<<"$merkmale" || melde "not hardened: $merkmal"
+  done
+  ! grep -qaF "$bau" bin/glanzgrube || melde "the program tells where it was built"
+fi
