@@ -20,8 +20,8 @@ void SchreibeIni() {
 void LeseIni(Ansicht &ansicht) {
   const Textzeilen datei = LiesZeilen(IniPfad(), 1);
   std::int16_t modus = kUngelesen;
-  const bool gelesen = datei.Fehler == Dateifehler::Keiner &&
-                       LiesZahl(datei.Zeilen[0], modus) == Dateifehler::Keiner;
+  const bool gelesen =
+      datei.Fehler == Dateifehler::Keiner && InZahl(datei.Zeilen[0], modus) == Dateifehler::Keiner;
   const bool gueltig = modus == kUngelesen || IstModus(modus);
   spiel.Spielmodus = IstModus(modus) ? modus : kModusNormal;
   if (gelesen && gueltig)

@@ -27,7 +27,7 @@ QStringList AlsZeilen(const Texte &texte) {
 }
 
 Dateifehler LiesPunkte(const std::string &text, std::int32_t &wert) {
-  return LiesZahl(QString::fromStdString(text), wert);
+  return InZahl(QString::fromStdString(text), wert);
 }
 
 /// Brings the list in memory to five entries, whatever was read: missing names and points without a

@@ -9,8 +9,8 @@
 #include "core/zug.h"
 #include "persistence/iniLumbra.h"
 #include "persistence/modCdVersion.h"
-#include "platform/modOpenSave.h"
 #include "persistence/textdatei.h"
+#include "platform/modOpenSave.h"
 
 namespace {
 
@@ -28,9 +28,9 @@ Spielstand LiesSpielstand(const QString &pfad) {
   Spielstand stand;
   stand.Fehler = datei.Fehler;
   if (stand.Fehler == Dateifehler::Keiner)
-    stand.Fehler = LiesZahl(datei.Zeilen[0], stand.Level);
+    stand.Fehler = InZahl(datei.Zeilen[0], stand.Level);
   if (stand.Fehler == Dateifehler::Keiner)
-    stand.Fehler = LiesZahl(datei.Zeilen[2], stand.Modus);
+    stand.Fehler = InZahl(datei.Zeilen[2], stand.Modus);
   if (stand.Fehler != Dateifehler::Keiner)
     return stand;
   stand.Punkte = datei.Zeilen[1];
@@ -73,7 +73,7 @@ void LadeSpielstand(Ansicht &ansicht, const QString &pfad) {
   if (!ansicht.Frage(FrageLaden(stand.Level + 1, stand.Modus, stand.Punkte.toStdString())))
     return;
   spiel.Level = stand.Level;
-  const Dateifehler fehler = LiesZahl(stand.Punkte, spiel.Punkte);
+  const Dateifehler fehler = InZahl(stand.Punkte, spiel.Punkte);
   if (fehler != Dateifehler::Keiner) {
     MeldeLesefehler(ansicht, fehler);
     return;

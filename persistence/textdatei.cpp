@@ -2,11 +2,13 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <charconv>
+#include <filesystem>
+#include <system_error>
 
 #include "platform/codepage.h"
-#include "platform/dateiersatz.h"
-#include "platform/modExistiertDatei.h"
+#include "platform/dateisync.h"
 
 namespace {
 
@@ -23,46 +25,46 @@ QByteArray Kodiert(const QString &text, const QByteArray &ersatz) {
   return bytes;
 }
 
-/// Folders, pipes and devices bear names of files, but opening them may wait for ever, and
-/// replacing them does harm.
-bool IstKeineDatei(const QString &pfad) {
-  const QFileInfo info(pfad);
-  return info.exists() && !info.isFile();
-}
-
-/// Why a file could not be opened; Qt does not tell the causes apart.
-Dateifehler Oeffnungsfehler(const QString &pfad) {
-  if (!QFileInfo(QFileInfo(pfad).path()).isDir())
+/// Why a path cannot be that of a file, whether there is one or not. Opening a pipe may wait for
+/// ever, and a folder, a device or a loop of links must not be replaced.
+Dateifehler Pfadfehler(const QString &pfad) {
+  const QFileInfo datei(pfad);
+  if (!QFileInfo(datei.path()).isDir())
     return Dateifehler::PfadNichtGefunden;
-  return ExistiertDatei(pfad) ? Dateifehler::ZugriffVerweigert : Dateifehler::NichtGefunden;
+  std::error_code fehler;
+  const auto art = std::filesystem::status(datei.filesystemFilePath(), fehler).type();
+  if (art == std::filesystem::file_type::regular || art == std::filesystem::file_type::not_found)
+    return Dateifehler::Keiner;
+  return fehler == std::errc::filename_too_long ? Dateifehler::Anderer
+                                                : Dateifehler::ZugriffVerweigert;
 }
 
-template <typename Zahl>
-Dateifehler Konvertiert(const QString &text, Zahl &wert) {
-  const QByteArray ziffern = text.toLatin1();
-  const char *anfang = ziffern.begin();
-  const char *ende = ziffern.end();
-  while (anfang != ende && *anfang == ' ')
-    ++anfang;
-  while (anfang != ende && ende[-1] == ' ')
-    --ende;
-  Zahl zahl = 0;
-  const auto [rest, fehler] = std::from_chars(anfang, ende, zahl);
-  if (fehler == std::errc::invalid_argument || rest != ende)
-    return Dateifehler::KeineZahl;
-  if (fehler != std::errc())
-    return Dateifehler::Zahlenbereich;
-  wert = zahl;
-  return Dateifehler::Keiner;
+/// Replaces a file or makes a new one. After a failure the old file is still there, unless its
+/// folder allows no second file, so that the file itself has to be rewritten. After success the
+/// disk has confirmed the content.
+Dateifehler Ersetze(const QString &pfad, const QByteArray &inhalt) {
+  const QFileInfo alt(pfad);
+  QSaveFile datei(alt.exists() ? alt.canonicalFilePath() : pfad);  // Keeps a link a link.
+  datei.setDirectWriteFallback(true);
+  if (!datei.open(QIODevice::WriteOnly))
+    return Dateifehler::ZugriffVerweigert;
+  datei.write(inhalt);
+  // commit() does not look at the result of these two, and replaces the old file in any case.
+  if (datei.flush() && Synchronisiere(datei.handle()) && datei.commit())
+    return Dateifehler::Keiner;
+  return datei.error() == QFileDevice::ResourceError ? Dateifehler::DatentraegerVoll
+                                                     : Dateifehler::Anderer;
 }
 
 }  // namespace
 
 Textzeilen LiesZeilen(const QString &pfad, int anzahl) {
+  Textzeilen gelesen{{}, Pfadfehler(pfad)};
   QFile datei(pfad);
-  if (IstKeineDatei(pfad) || !datei.open(QIODevice::ReadOnly))
-    return {{}, Oeffnungsfehler(pfad)};
-  Textzeilen gelesen;
+  if (gelesen.Fehler == Dateifehler::Keiner && !datei.open(QIODevice::ReadOnly))
+    gelesen.Fehler = datei.exists() ? Dateifehler::ZugriffVerweigert : Dateifehler::NichtGefunden;
+  if (gelesen.Fehler != Dateifehler::Keiner)
+    return gelesen;
   QByteArray zeile;
   char byte = 0;
   bool nachCr = false;
@@ -93,22 +95,29 @@ Textzeilen LiesZeilen(const QString &pfad, int anzahl) {
 }
 
 Dateifehler SchreibeZeilen(const QString &pfad, const QStringList &zeilen) {
-  if (IstKeineDatei(pfad))
-    return Dateifehler::ZugriffVerweigert;
   QByteArray inhalt;
   for (const QString &zeile : zeilen)
     inhalt.append(Kodiert(zeile, "?") + "\r\n");
-  return ErsetzeDatei(pfad, inhalt);
+  const Dateifehler fehler = Pfadfehler(pfad);
+  return fehler == Dateifehler::Keiner ? Ersetze(pfad, inhalt) : fehler;
 }
 
 QString Speicherbar(const QString &text) {
   return AusCodepage(Kodiert(text, ""));
 }
 
-Dateifehler LiesZahl(const QString &text, std::int16_t &wert) {
-  return Konvertiert(text, wert);
+template <typename Zahl>
+Dateifehler InZahl(const QString &text, Zahl &wert) {
+  const QByteArray ziffern = text.toLatin1().trimmed();
+  Zahl zahl = 0;
+  const auto [rest, fehler] = std::from_chars(ziffern.begin(), ziffern.end(), zahl);
+  if (fehler == std::errc::invalid_argument || rest != ziffern.end())
+    return Dateifehler::KeineZahl;
+  if (fehler != std::errc())
+    return Dateifehler::Zahlenbereich;
+  wert = zahl;
+  return Dateifehler::Keiner;
 }
 
-Dateifehler LiesZahl(const QString &text, std::int32_t &wert) {
-  return Konvertiert(text, wert);
-}
+template Dateifehler InZahl(const QString &text, std::int16_t &wert);
+template Dateifehler InZahl(const QString &text, std::int32_t &wert);

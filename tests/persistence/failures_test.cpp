@@ -88,6 +88,9 @@ TEST_F(Stoerung, EtwasFehltOderIstEinOrdner) {
 TEST_F(Stoerung, RechteFehlen) {
   LegeAlteDateien();
   chmod(qPrintable(ordner), 0777);
+  const QString offen = temporaer.filePath("offen.sar");
+  Lege(offen, "alt");
+  chmod(qPrintable(offen), 0666);
   for (const QString &pfad : Dateien())
     chmod(qPrintable(pfad), 0);
   const uid_t wirklich = getuid();  // Root may do everything.
@@ -95,10 +98,14 @@ TEST_F(Stoerung, RechteFehlen) {
   ASSERT_EQ(setresuid(niemand, niemand, wirklich), 0);
   ErwarteSchreibfehler(2);
   ErwarteLesefehler(2);
+  spiel.Level = 3;
+  SpeichereSpielstand(ansicht, offen);  // A file that may be written in a folder that may not.
+  EXPECT_TRUE(ansicht.meldungen.empty());
   ASSERT_EQ(setresuid(wirklich, wirklich, wirklich), 0);
   for (const QString &pfad : Dateien())
     chmod(qPrintable(pfad), 0600);
   ErwarteAlteDateien();
+  EXPECT_EQ(Inhalt(offen).left(1), "3");
 }
 
 TEST_F(Stoerung, DatentraegerVollOderOhneBestaetigung) {
@@ -127,9 +134,38 @@ TEST_F(Stoerung, DatentraegerIstDefekt) {
   ErwarteLesefehler(8);
 }
 
-TEST_F(Stoerung, LaengsterName) {
-  sar = ordner + "/" + QString(251, 'x') + ".sar";
-  for (int mal = 0; mal < 2; ++mal)
-    SpeichereSpielstand(ansicht, sar);
+TEST_F(Stoerung, LangerName) {
+  const struct {
+    int zeichen;
+    bool geht;
+  } faelle[] = {{244, true}, {300, false}};
+  for (const auto &[zeichen, geht] : faelle) {
+    sar = ordner + "/" + QString(zeichen, 'x') + ".sar";
+    for (int mal = 0; mal < 2; ++mal)
+      SpeichereSpielstand(ansicht, sar);
+    EXPECT_EQ(ansicht.meldungen.empty(), geht);
+  }
+  ansicht.meldungen.pop_back();
+  ErwarteMeldung(MeldungSchreibfehler(8));
+}
+
+TEST_F(Stoerung, VerknuepfungenUndRechteBleiben) {
+  const auto Link = [&](const char *name) { return ordner + "/" + name; };
+  QFile::link(Link("b.sar"), Link("a.sar"));
+  QFile::link(Link("c.sar"), Link("b.sar"));
+  SpeichereSpielstand(ansicht, Link("a.sar"));  // It leads to a file that does not exist yet.
+  chmod(qPrintable(Link("c.sar")), 0640);
+  spiel.Level = 9;
+  SpeichereSpielstand(ansicht, Link("a.sar"));
+  EXPECT_EQ(Inhalt(Link("c.sar")).left(1), "9");
+  EXPECT_TRUE(QFileInfo(Link("b.sar")).isSymLink());
+  struct stat datei {};
+  stat(qPrintable(Link("c.sar")), &datei);
+  EXPECT_EQ(datei.st_mode & 0777U, 0640U);
+  QFile::remove(Link("c.sar"));
+  QFile::link(Link("a.sar"), Link("c.sar"));
   EXPECT_TRUE(ansicht.meldungen.empty());
+  SpeichereSpielstand(ansicht, Link("a.sar"));
+  ErwarteMeldung(MeldungSchreibfehler(2));
+  EXPECT_TRUE(QFileInfo(Link("c.sar")).isSymLink());
 }
