@@ -88,8 +88,8 @@ TEST_F(Stoerung, EtwasFehltOderIstEinOrdner) {
 TEST_F(Stoerung, RechteFehlen) {
   LegeAlteDateien();
   chmod(qPrintable(ordner), 0777);
-  const QString offen = temporaer.filePath("offen.sar");
-  Lege(offen, "alt");
+  const QString offen = folder.filePath("offen.sar");
+  WriteFile(offen, "alt");
   chmod(qPrintable(offen), 0666);
   for (const QString &pfad : Dateien())
     chmod(qPrintable(pfad), 0);
@@ -105,7 +105,7 @@ TEST_F(Stoerung, RechteFehlen) {
   for (const QString &pfad : Dateien())
     chmod(qPrintable(pfad), 0600);
   ErwarteAlteDateien();
-  EXPECT_EQ(Inhalt(offen).left(1), "3");
+  EXPECT_EQ(ReadFile(offen).left(1), "3");
 }
 
 TEST_F(Stoerung, DatentraegerVollOderOhneBestaetigung) {
@@ -157,7 +157,7 @@ TEST_F(Stoerung, VerknuepfungenUndRechteBleiben) {
   chmod(qPrintable(Link("c.sar")), 0640);
   spiel.Level = 9;
   SpeichereSpielstand(ansicht, Link("a.sar"));
-  EXPECT_EQ(Inhalt(Link("c.sar")).left(1), "9");
+  EXPECT_EQ(ReadFile(Link("c.sar")).left(1), "9");
   EXPECT_TRUE(QFileInfo(Link("b.sar")).isSymLink());
   struct stat datei {};
   stat(qPrintable(Link("c.sar")), &datei);
