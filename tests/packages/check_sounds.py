@@ -68,8 +68,10 @@ def main():
         print(f"{name:7}{len(werte) / RATE:5.2f} s, peak {spitze:5.1f} dBFS, {laut[name]:6.1f} dB(A)")
         if not -8.5 < spitze < -5:
             klagen.append(f"{name}: the peak is not near -6 dBFS")
-        if max(map(abs, werte[:10] + werte[-10:])) > 0.02:
-            klagen.append(f"{name}: a click at an end")
+        if max(map(abs, werte[:10])) > 0.02:
+            klagen.append(f"{name}: a click at the begin")
+        if max(map(abs, werte[-RATE // 50:])) > 0.005:
+            klagen.append(f"{name}: the end is cut off")
     for lauter, leiser in zip(LAUT, LAUT[1:]):
         if laut[lauter] < laut[leiser] + 0.5:
             klagen.append(f"{lauter} is not louder than {leiser}")
