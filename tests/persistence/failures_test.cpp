@@ -146,7 +146,7 @@ TEST_F(Stoerung, LangerName) {
     EXPECT_EQ(ansicht.meldungen.empty(), geht);
   }
   ansicht.meldungen.pop_back();
-  ErwarteMeldung(MeldungSchreibfehler(8));
+  ExpectMessage(MeldungSchreibfehler(8));
 }
 
 TEST_F(Stoerung, VerknuepfungenUndRechteBleiben) {
@@ -166,6 +166,6 @@ TEST_F(Stoerung, VerknuepfungenUndRechteBleiben) {
   QFile::link(Link("a.sar"), Link("c.sar"));
   EXPECT_TRUE(ansicht.meldungen.empty());
   SpeichereSpielstand(ansicht, Link("a.sar"));
-  ErwarteMeldung(MeldungSchreibfehler(2));
+  ExpectMessage(MeldungSchreibfehler(2));
   EXPECT_TRUE(QFileInfo(Link("c.sar")).isSymLink());
 }
