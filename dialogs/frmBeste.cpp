@@ -12,7 +12,6 @@
 #include "core/ansicht.h"
 #include "persistence/modBeste.h"
 #include "platform/modShellExecute.h"
-#include "platform/pfade.h"
 
 namespace {
 
@@ -99,7 +98,7 @@ void frmBeste::closeEvent(QCloseEvent *ereignis) {
 
 void frmBeste::keyPressEvent(QKeyEvent *ereignis) {
   if (ereignis->key() == Qt::Key_F1)
-    OeffneDokument(MitBackslash(Programmordner()) + "Bestespieler.pdf");
+    OeffneHilfe("Bestespieler.pdf");
   else
     Bildfenster::keyPressEvent(ereignis);
 }

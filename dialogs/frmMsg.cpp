@@ -10,7 +10,7 @@
 #include "controls/beschriftung.h"
 #include "controls/bild.h"
 #include "core/spiel.h"
-#include "dialogs/hilfe.h"
+#include "platform/modShellExecute.h"
 #include "platform/tastenplatz.h"
 
 namespace {

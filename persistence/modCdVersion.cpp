@@ -1,5 +1,7 @@
 #include "persistence/modCdVersion.h"
 
+#include <QDir>
+
 #include "platform/modExistiertDatei.h"
 #include "platform/pfade.h"
 
@@ -26,7 +28,7 @@ void LegeDatenordnerFest(Ansicht &ansicht, const QString &wurzel) {
 }
 
 void LegeDatenordnerAn(Ansicht &ansicht, const QString &pfad) {
-  if (ErstelleOrdner(pfad))
+  if (QDir().mkdir(pfad))
     spiel.DatenordnerAktiv = true;
   else
     ansicht.Melde(MeldungOrdnerFehlgeschlagen());

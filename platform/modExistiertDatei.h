@@ -1,13 +1,10 @@
 /// @file
-/// Existence and creation of paths.
+/// Test of a path.
 #pragma once
 
 #include <QString>
 
-/// False only if nothing of that name lies in a folder that exists, or if the path is empty. A
-/// folder counts as existing; so do a file that may not be looked at and a path through a missing
-/// folder.
+/// False for an empty path and if a folder that exists holds nothing of that name. Anything else is
+/// true: a folder, a file without read permission, a path through a missing folder. A link counts
+/// as what it leads to.
 bool ExistiertDatei(const QString &pfad);
-
-/// Creates one folder in a folder that exists; false if that fails.
-bool ErstelleOrdner(const QString &pfad);

@@ -1,10 +1,12 @@
 /// @file
-/// Documents that another program shows.
+/// Help pages, shown by another program.
 #pragma once
 
 #include <QString>
 
-/// Opens a document in the default application for it and returns at once. If the system has
-/// nothing that opens documents, the player is told where this one lies. Other failures are
-/// ignored.
+/// Opens a help page in the default application for it and returns at once. Nothing happens if the
+/// page is missing or no application opens it.
+void OeffneHilfe(const QString &name);
+
+/// The step of OeffneHilfe() that differs between systems.
 void OeffneDokument(const QString &pfad);

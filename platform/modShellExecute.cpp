@@ -1,7 +1,6 @@
-#include "dialogs/hilfe.h"
+#include "platform/modShellExecute.h"
 
 #include "platform/modExistiertDatei.h"
-#include "platform/modShellExecute.h"
 #include "platform/pfade.h"
 
 void OeffneHilfe(const QString &name) {
