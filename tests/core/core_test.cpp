@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <limits>
 #include <numeric>
 
 #include "core/anzeige.h"
@@ -14,175 +13,185 @@
 
 namespace {
 
-constexpr auto kKleinste = std::numeric_limits<std::int32_t>::min();
-constexpr auto kGroesste = std::numeric_limits<std::int32_t>::max();
+using enum Kachel;
 
-Zelle &Feld(int zelle) {
-  return spiel.Feld.at(static_cast<std::size_t>(zelle));
+Zelle &Cell(int n) {
+  return spiel.Feld.at(static_cast<std::size_t>(n));
 }
 
 /// A fresh record, a screen of arrays and a clock that counts.
-class Kern : public testing::Test {
+class Rules : public testing::Test {
  protected:
-  Kern() { Beginne(); }
-  ~Kern() override { zufall = {}; }
+  Rules() { Restart(); }
+  ~Rules() override { zufall = {}; }
 
-  void Beginne() {
+  void Restart() {
     spiel = {};
-    ansicht = {};
-    zufall.Uhr = [saat = std::uint64_t{0}]() mutable { return ++saat; };
-    WarteAufSpiel(ansicht);
+    screen = {};
+    zufall.Uhr = [seed = std::uint64_t{0}]() mutable { return ++seed; };
+    WarteAufSpiel(screen);
   }
   /// Lays a board on the playfield and begins to play on it without any help.
-  void LegeBrett(const std::vector<int> &saranten) {
-    for (const int zelle : saranten)
-      Feld(zelle).IstSarant = true;
+  void LayBoard(const std::vector<int> &gems) {
+    for (const int cell : gems)
+      Cell(cell).IstSarant = true;
     spiel.Level = 1;
     spiel.Punkte = kStartpunkte;
-    ZeigeStatus(ansicht);
+    ZeigeStatus(screen);
   }
-  void Click(int zelle, int taste = kLinkeTaste) { imgSar_MouseDown(ansicht, zelle, taste); }
+  void Press(int cell, int button = kLinkeTaste) { imgSar_MouseDown(screen, cell, button); }
   /// Presses covered cells with or without a gem until the level has ended that way.
-  void SpieleLevel(bool saranten, Bedienung ende) {
-    for (int zelle = 1; zelle <= kZellen; ++zelle)
-      if (Feld(zelle).IstSarant == saranten && ansicht.LiesKachel(zelle) == Kachel::Verdeckt)
-        Click(zelle);
-    ASSERT_TRUE(ansicht.IstSichtbar(ende));
+  void PlayLevel(bool gems, Bedienung end) {
+    for (int cell = 1; cell <= kZellen; ++cell)
+      if (Cell(cell).IstSarant == gems && screen.LiesKachel(cell) == Verdeckt)
+        Press(cell);
+    ASSERT_TRUE(screen.IstSichtbar(end));
   }
-  void GewinneLevel() { SpieleLevel(true, Bedienung::imgNextLevel); }
-  void VerliereLevel() { SpieleLevel(false, Bedienung::cmdWiederholen); }
+  void WinLevel() { PlayLevel(true, Bedienung::imgNextLevel); }
+  void LoseLevel() { PlayLevel(false, Bedienung::cmdWiederholen); }
 
-  int Zaehle(Kachel kachel) const {
-    return static_cast<int>(std::count(ansicht.kacheln.begin() + 1, ansicht.kacheln.end(), kachel));
+  int Count(Kachel tile) const {
+    return static_cast<int>(std::count(screen.tiles.begin() + 1, screen.tiles.end(), tile));
   }
-  void ErwarteSaubereSpielphase() {
+  void ExpectCleanLevel() {
     for (const Bedienung b :
          {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern})
-      EXPECT_FALSE(ansicht.IstSichtbar(b));
-    EXPECT_FALSE(ansicht.speichernErlaubt);
-    EXPECT_EQ(ansicht.timer[Pfeil::Weiter], 0);
-    EXPECT_EQ(ansicht.pfeile[Pfeil::Weiter], kKeinPfeil);
+      EXPECT_FALSE(screen.IstSichtbar(b));
+    EXPECT_FALSE(screen.mayBeSaved);
+    EXPECT_EQ(screen.timers[Pfeil::Weiter], 0);
+    EXPECT_EQ(screen.arrows[Pfeil::Weiter], kKeinPfeil);
     EXPECT_EQ(spiel.Levelpunkte, 0);
-    EXPECT_EQ(Zaehle(Kachel::Fehler), 0);
-    EXPECT_EQ(Zaehle(Kachel::Sarant), spiel.Startfelder);
-    EXPECT_EQ(Zaehle(Kachel::Markiert), FreifelderFuer(spiel.Level));
+    EXPECT_EQ(Count(Fehler), 0);
+    EXPECT_EQ(Count(Sarant), spiel.Startfelder);
+    EXPECT_EQ(Count(Markiert), FreifelderFuer(spiel.Level));
   }
-  std::string Punkte() { return ansicht.Reihe(Panelreihe::imgPunkte, 0, 4); }
-  std::string Levelpunkte() { return ansicht.Reihe(Panelreihe::imgLevel, 0, 2); }
+  std::string Row(Panelreihe row, int places) {
+    std::string text;
+    while (places-- > 0)
+      text += screen.digits.at({row, places});
+    return text;
+  }
+  std::string Points() { return Row(Panelreihe::imgPunkte, 5); }
+  std::string LevelPoints() { return Row(Panelreihe::imgLevel, 3); }
   /// Errors, rest and level, two places each.
-  std::string Auswertung() { return ansicht.Reihe(Panelreihe::imgAuswertung, 0, 5); }
+  std::string Counts() { return Row(Panelreihe::imgAuswertung, 6); }
 
-  ArrayScreen ansicht;
+  ArrayScreen screen;
 };
 
-TEST_F(Kern, SchreibtPunkteRechtsbuendigUndLaesstDieEinerSonstStehen) {
-  EXPECT_EQ(Punkte() + Auswertung(), "____0[_][0]_0_0");
-  const std::pair<std::int32_t, const char *> faelle[] = {
-      {7, "____7"},         {42, "___42"},     {500, "__500"}, {1750, "_1750"},
-      {20500, "20500"},     {99999, "99999"},  {-1, "____9"},  {10, "___10"},
-      {-100, "____0"},      {100000, "____0"}, {8, "____8"},   {kKleinste, "____8"},
-      {kGroesste, "____8"}, {0, "____0"}};
-  for (const auto &[punkte, gezeigt] : faelle) {
-    spiel.Punkte = punkte;
-    ZeigeStatus(ansicht);
-    EXPECT_EQ(Punkte(), gezeigt) << punkte;
+TEST_F(Rules, PointsStandRightAndLeaveTheUnitsIfTheyDoNotFit) {
+  EXPECT_EQ(Points() + Counts(), "____0[_][0]_0_0");
+  const std::pair<std::int32_t, const char *> cases[] = {
+      {7, "____7"},         {42, "___42"},        {500, "__500"},  {20500, "20500"},
+      {99999, "99999"},     {-1, "____9"},        {-100, "____9"}, {100000, "____9"},
+      {INT32_MIN, "____9"}, {INT32_MAX, "____9"}, {0, "____0"}};
+  for (const auto &[points, shown] : cases) {
+    spiel.Punkte = points;
+    ZeigeStatus(screen);
+    EXPECT_EQ(Points(), shown) << points;
   }
-  spiel.Level = 9;
+  ZeigeLevelpunkte(screen, 450, Ziffernfarbe::Gruen);
   spiel.Fehler = 12;
-  ZeigeLevelpunkte(ansicht, 450, Ziffernfarbe::Gruen);
-  ZeigeStatus(ansicht);
-  EXPECT_EQ(Auswertung() + Levelpunkte(), "[1][2]_0_9___");
-  spiel.Level = 10;
-  ZeigeStatus(ansicht);
-  EXPECT_EQ(Auswertung(), "[1][2]_010");
+  for (const auto &[level, shown] : {std::pair(9, "[1][2]_0_9___"), {10, "[1][2]_010___"}}) {
+    spiel.Level = static_cast<std::int16_t>(level);
+    ZeigeStatus(screen);
+    EXPECT_EQ(Counts() + LevelPoints(), shown);
+  }
 }
 
-TEST_F(Kern, EinZugFolgtDerTafelDerUebergaenge) {
-  using enum Kachel;
-  constexpr int kSarante = 1, kFrei = 7;
+TEST_F(Rules, APressBeforeTheFirstGameDoesNothing) {
+  const std::string text = screen.modeText;
+  for (const int button : {kLinkeTaste, kRechteTaste})
+    Press(50, button);
+  EXPECT_EQ(Count(Verdeckt), kZellen);
+  EXPECT_EQ(screen.modeText, text);
+  EXPECT_TRUE(screen.sounds.empty());
+}
+
+TEST_F(Rules, AMoveFollowsTheTableOfTransitions) {
+  constexpr int kGem = 1, kFree = 7;
   const struct {
-    Kachel vorher;
-    int zelle, taste;
-    Kachel nachher;
-    int klang;
-    bool neuerText;
-  } faelle[] = {{Verdeckt, kSarante, 1, Sarant, kKlangBlip, true},
-                {Verdeckt, kFrei, 1, Fehler, kKlangFehler, true},
-                {Verdeckt, kSarante, 2, Markiert, 0, true},
-                {Verdeckt, kFrei, 4, Markiert, 0, true},
-                {Markiert, kSarante, 1, Markiert, 0, false},
-                {Markiert, kFrei, 1, Markiert, 0, false},
-                {Markiert, kSarante, 2, Verdeckt, 0, true},
-                {Sarant, kSarante, 1, Sarant, kKlangBlip, true},
-                {Sarant, kSarante, 2, Sarant, 0, true},
-                {Fehler, kFrei, 1, Fehler, kKlangFehler, true},
-                {Fehler, kFrei, 2, Fehler, 0, true}};
-  LegeBrett({kSarante, 2, 3, 50});
-  for (const auto &fall : faelle) {
-    SCOPED_TRACE(&fall - faelle);
-    ansicht.SetzeKachel(fall.zelle, fall.vorher);
-    ansicht.modustext = "alt";
-    ansicht.klaenge.clear();
-    Click(fall.zelle, fall.taste);
-    EXPECT_EQ(ansicht.LiesKachel(fall.zelle), fall.nachher);
-    EXPECT_EQ(ansicht.klaenge, std::vector<int>(fall.klang != kKeinKlang, fall.klang));
-    EXPECT_EQ(ansicht.modustext, fall.neuerText ? Moduszeile(3) : "alt");
-    ansicht.SetzeKachel(fall.zelle, Verdeckt);
+    Kachel before;
+    int cell, button;
+    Kachel after;
+    int sound;
+    bool newText;
+  } cases[] = {{Verdeckt, kGem, 1, Sarant, kKlangBlip, true},
+               {Verdeckt, kFree, 1, Fehler, kKlangFehler, true},
+               {Verdeckt, kGem, 2, Markiert, 0, true},
+               {Verdeckt, kFree, 4, Markiert, 0, true},
+               {Markiert, kGem, 1, Markiert, 0, false},
+               {Markiert, kFree, 1, Markiert, 0, false},
+               {Markiert, kGem, 2, Verdeckt, 0, true},
+               {Sarant, kGem, 1, Sarant, kKlangBlip, true},
+               {Sarant, kGem, 2, Sarant, 0, true},
+               {Fehler, kFree, 1, Fehler, kKlangFehler, true},
+               {Fehler, kFree, 2, Fehler, 0, true}};
+  LayBoard({kGem, 2, 3, 50});
+  for (const auto &c : cases) {
+    SCOPED_TRACE(&c - cases);
+    screen.SetzeKachel(c.cell, c.before);
+    screen.modeText = "old";
+    screen.sounds.clear();
+    Press(c.cell, c.button);
+    EXPECT_EQ(screen.LiesKachel(c.cell), c.after);
+    EXPECT_EQ(screen.sounds, std::vector<int>(c.sound != kKeinKlang, c.sound));
+    EXPECT_EQ(screen.modeText, c.newText ? Moduszeile(3) : "old");
+    screen.SetzeKachel(c.cell, Verdeckt);
   }
   EXPECT_EQ(spiel.Punkte, kStartpunkte);
 }
 
-TEST_F(Kern, DerZweiteFehlerVerliertDasLevel) {
-  LegeBrett({2, 3, 4});
-  for (const int zelle : {2, 1, 1})
-    Click(zelle);
-  EXPECT_EQ(Auswertung(), "[_][1]_2_1");
-  EXPECT_FALSE(ansicht.IstSichtbar(Bedienung::cmdWiederholen));
-  ansicht.klaenge.clear();
-  Click(kZellen);
-  EXPECT_TRUE(ansicht.IstSichtbar(Bedienung::cmdWiederholen));
-  EXPECT_EQ(ansicht.klaenge, (std::vector{kKlangFehler, kKlangFehler}));
-  EXPECT_EQ(ansicht.timer[Pfeil::Weiter], 400);
-  EXPECT_EQ(ansicht.modustext, "Klicken Sie auf »Wiederholen«");
-  EXPECT_EQ(Auswertung() + Levelpunkte(), "[_][2]_2_1[1][0][0]");
+TEST_F(Rules, TheSecondErrorLosesTheLevel) {
+  LayBoard({2, 3, 4});
+  for (const int cell : {2, 1, 1})
+    Press(cell);
+  EXPECT_EQ(Counts(), "[_][1]_2_1");
+  EXPECT_FALSE(screen.IstSichtbar(Bedienung::cmdWiederholen));
+  screen.sounds.clear();
+  Press(kZellen);
+  EXPECT_TRUE(screen.IstSichtbar(Bedienung::cmdWiederholen));
+  EXPECT_EQ(screen.sounds, (std::vector{kKlangFehler, kKlangFehler}));
+  EXPECT_EQ(screen.timers[Pfeil::Weiter], 400);
+  EXPECT_EQ(screen.modeText, "Klicken Sie auf »Wiederholen«");
+  EXPECT_EQ(Counts() + LevelPoints(), "[_][2]_2_1[1][0][0]");
   EXPECT_EQ(spiel.Punkte, 500);
-  Click(3);
-  Click(60, kRechteTaste);
-  EXPECT_EQ(Zaehle(Kachel::Verdeckt), kZellen - 3);
+  Press(3);
+  Press(60, kRechteTaste);
+  EXPECT_EQ(Count(Verdeckt), kZellen - 3);
 }
 
-TEST_F(Kern, DieLetzteSaranteGewinntAuchNebenEinemFehler) {
+TEST_F(Rules, TheLastGemWinsEvenBesideAnError) {
   const struct {
-    std::int16_t modus;
-    std::int32_t punkte;
-    const char *levelpunkte, *gezeigt;
-  } faelle[] = {
-      {1, 500, "400", "__500"},  {2, 99999, "450", "99999"},  {3, 0, "500", "_____"},
-      {2, -300, "450", "_____"}, {2, 100000, "450", "_____"},
-  };
-  for (const auto &[modus, punkte, levelpunkte, gezeigt] : faelle) {
-    Beginne();
-    LegeBrett({10, 11});
-    spiel.Spielmodus = modus;
-    spiel.Punkte = punkte;
-    for (const int zelle : {99, 10, 11})
-      Click(zelle);
+    std::int16_t mode;
+    std::int32_t points;
+    const char *shown;
+  } cases[] = {{1, 500, "__500400"},
+               {2, 99999, "99999450"},
+               {3, 0, "_____500"},
+               {2, -300, "_____450"},
+               {2, 100000, "_____450"}};
+  for (const auto &[mode, points, shown] : cases) {
+    Restart();
+    LayBoard({10, 11});
+    spiel.Spielmodus = mode;
+    spiel.Punkte = points;
+    for (const int cell : {99, 10, 11, 98})  // The last one is dead already.
+      Press(cell);
+    EXPECT_EQ(screen.LiesKachel(98), Verdeckt);
     for (const Bedienung b : {Bedienung::imgNextLevel, Bedienung::imgSpeichern})
-      EXPECT_TRUE(ansicht.IstSichtbar(b));
-    EXPECT_TRUE(ansicht.speichernErlaubt);
-    EXPECT_EQ(ansicht.timer[Pfeil::Weiter], 300);
-    EXPECT_EQ(ansicht.klaenge.back(), kKlangTada);
-    EXPECT_EQ(ansicht.modustext, "Klicken Sie auf »Nächster Level«");
-    EXPECT_EQ(Levelpunkte(), levelpunkte);
-    EXPECT_EQ(Punkte(), gezeigt);
-    EXPECT_EQ(spiel.Punkte, punkte);
-    Click(98);
-    EXPECT_EQ(ansicht.LiesKachel(98), Kachel::Verdeckt);
+      EXPECT_TRUE(screen.IstSichtbar(b));
+    EXPECT_TRUE(screen.mayBeSaved);
+    EXPECT_EQ(screen.timers[Pfeil::Weiter], 300);
+    EXPECT_EQ(screen.sounds.back(), kKlangTada);
+    EXPECT_EQ(screen.modeText, "Klicken Sie auf »Nächster Level«");
+    EXPECT_EQ(Points() + LevelPoints(), shown);
+    EXPECT_EQ(spiel.Punkte, points);
   }
 }
 
 /// Up to this level: start cells in the three modes and free-cell marks.
-constexpr int kHilfen[][5] = {
+constexpr int kHelp[][5] = {
     {3, 8, 6, 0, 2},    {5, 8, 6, 0, 4},      {6, 8, 6, 1, 4},    {7, 8, 6, 2, 4},
     {8, 8, 6, 3, 4},    {9, 8, 6, 4, 6},      {10, 8, 6, 5, 6},   {11, 8, 6, 6, 6},
     {12, 8, 6, 7, 6},   {13, 8, 6, 8, 6},     {14, 8, 6, 9, 8},   {15, 8, 6, 10, 8},
@@ -191,147 +200,144 @@ constexpr int kHilfen[][5] = {
     {34, 9, 7, 7, 12},  {40, 7, 5, 5, 12},
 };
 
-TEST_F(Kern, GibtJedemLevelUndModusSeineSarantenStartfelderUndFreifelder) {
+TEST_F(Rules, EachLevelAndModeHasItsGemsStartCellsAndMarks) {
   for (int level = 1; level <= kLetztesLevel; ++level) {
-    const int *hilfe = *std::find_if(std::begin(kHilfen), std::end(kHilfen),
-                                     [level](const int *h) { return level <= h[0]; });
-    for (int modus = 1; modus <= kModi; ++modus) {
-      SCOPED_TRACE(testing::Message() << "level " << level << " mode " << modus);
-      ansicht.klaenge.clear();
-      SpielAbLevelBeginnen(ansicht, level - 1, modus);
-      const int start = hilfe[modus];
-      EXPECT_EQ(spiel.Startfelder, start);
-      EXPECT_EQ(FreifelderFuer(level), hilfe[4]);
-      ErwarteSaubereSpielphase();
-      EXPECT_EQ(spiel.SarantenRest, 76 - level - start);
-      EXPECT_EQ(ansicht.klaenge, std::vector<int>(static_cast<std::size_t>(start), kKlangBlip));
-      EXPECT_EQ(std::accumulate(ansicht.zahlen.begin(), ansicht.zahlen.end(), 0), 2 * (76 - level));
-      const auto &liste = spiel.lstWiederHolen;
-      EXPECT_EQ(liste.size(), static_cast<std::size_t>(76 - level));
-      for (int zelle = 1; zelle <= kZellen; ++zelle) {
-        const bool gelistet = std::count(liste.begin(), liste.end(), std::to_string(zelle)) == 1;
-        EXPECT_EQ(Feld(zelle).IstSarant, gelistet);
-        EXPECT_NE(ansicht.LiesKachel(zelle), gelistet ? Kachel::Markiert : Kachel::Sarant);
+    const int *help = *std::find_if(std::begin(kHelp), std::end(kHelp),
+                                    [level](const int *h) { return level <= h[0]; });
+    for (int mode = 1; mode <= kModi; ++mode) {
+      SCOPED_TRACE(testing::Message() << "level " << level << " mode " << mode);
+      screen.sounds.clear();
+      SpielAbLevelBeginnen(screen, level - 1, mode);
+      EXPECT_EQ(spiel.Startfelder, help[mode]);
+      EXPECT_EQ(FreifelderFuer(level), help[4]);
+      ExpectCleanLevel();
+      EXPECT_EQ(spiel.SarantenRest, 76 - level - help[mode]);
+      EXPECT_EQ(screen.sounds, std::vector<int>(static_cast<std::size_t>(help[mode]), kKlangBlip));
+      EXPECT_EQ(std::accumulate(screen.numbers.begin(), screen.numbers.end(), 0), 2 * (76 - level));
+      const auto &list = spiel.lstWiederHolen;
+      EXPECT_EQ(list.size(), static_cast<std::size_t>(76 - level));
+      for (int cell = 1; cell <= kZellen; ++cell) {
+        const bool listed = std::count(list.begin(), list.end(), std::to_string(cell)) == 1;
+        EXPECT_EQ(Cell(cell).IstSarant, listed);
+        EXPECT_NE(screen.LiesKachel(cell), listed ? Markiert : Sarant);
       }
-      GewinneLevel();
+      WinLevel();
     }
   }
 }
 
-TEST_F(Kern, GefragtWirdNurBeiPunktenUndNurJaBeginntNeu) {
-  imgNeuesSpiel_Click(ansicht);
-  EXPECT_TRUE(ansicht.meldungen.empty());
-  EXPECT_EQ(Punkte() + Auswertung(), "__500[_][0]69_1");
-  EXPECT_EQ(ansicht.timer[Pfeil::Start], 0);
-  EXPECT_EQ(ansicht.pfeile[Pfeil::Start], kKeinPfeil);
-  EXPECT_FALSE(ansicht.moduswahlSichtbar);
-  EXPECT_EQ(ansicht.modusfarbe, Textfarbe::Blau);
-  const auto brett = spiel.lstWiederHolen;
-  ansicht.antworten = {kNein, kJa};
-  for (const bool neu : {false, true}) {
-    imgNeuesSpiel_Click(ansicht);
-    EXPECT_EQ(spiel.lstWiederHolen != brett, neu);
-  }
-  for (const bool laeuft : {true, false}) {
-    spiel.Punkte = laeuft ? 500 : 0;
-    imgEnde_Click(ansicht);
-    EXPECT_NE(ansicht.beendet, laeuft);
-  }
-  EXPECT_EQ(ansicht.meldungen.size(), 3U);
+TEST_F(Rules, EachTierBeginsWithItsPoints) {
+  for (int tier = 0; tier <= 5; ++tier)
+    for (int mode = 1; mode <= kModi; ++mode)
+      EXPECT_EQ(PunkteFuerStart(5 * tier, mode),
+                tier == 0 ? 500 : tier * (mode == kModusExperte ? 1750 : 1500));
 }
 
-TEST_F(Kern, EinWiederholtesLevelBehaeltDasBrettUndKostetHundertPunkte) {
-  imgNeuesSpiel_Click(ansicht);
-  const auto brett = spiel.lstWiederHolen;
-  const auto zahlen = ansicht.zahlen;
-  for (int punkte = 400; punkte >= -100; punkte -= 100) {
-    VerliereLevel();
-    NaechsterLevelBlinkt(ansicht);
-    ansicht.kacheln.fill(Kachel::Fehler);
-    cmdWiederholen_Click(ansicht);
-    EXPECT_EQ(spiel.Punkte, punkte);
-    EXPECT_EQ(spiel.lstWiederHolen, brett);
-    EXPECT_EQ(ansicht.zahlen, zahlen);
-    EXPECT_EQ(Auswertung() + Levelpunkte(), "[_][0]69_1___");
-    ErwarteSaubereSpielphase();
+TEST_F(Rules, AQuestionComesOnlyWithPointsAndOnlyYesBeginsAnew) {
+  imgNeuesSpiel_Click(screen);
+  EXPECT_TRUE(screen.messages.empty());
+  EXPECT_EQ(Points() + Counts(), "__500[_][0]69_1");
+  EXPECT_EQ(screen.timers[Pfeil::Start], 0);
+  EXPECT_EQ(screen.arrows[Pfeil::Start], kKeinPfeil);
+  EXPECT_FALSE(screen.modeRowVisible);
+  EXPECT_EQ(screen.modeColour, Textfarbe::Blau);
+  const auto board = spiel.lstWiederHolen;
+  screen.answers = {kNein, kJa};
+  for (const bool anew : {false, true}) {
+    imgNeuesSpiel_Click(screen);
+    EXPECT_EQ(spiel.lstWiederHolen != board, anew);
   }
-  EXPECT_EQ(Punkte(), "____0");
+  for (const bool playing : {true, false}) {
+    spiel.Punkte = playing ? 500 : 0;
+    imgEnde_Click(screen);
+    EXPECT_NE(screen.ended, playing);
+  }
+  EXPECT_EQ(screen.messages.size(), 3U);
 }
 
-TEST_F(Kern, HinterDemLetztenLevelEndetDasSpiel) {
-  SpielAbLevelBeginnen(ansicht, kLetztesLevel - 3, 2);
-  const int punkte = spiel.Punkte;
-  spiel.Bestenschwelle = punkte + 450;
+TEST_F(Rules, ARepeatedLevelKeepsItsBoardAndCostsHundredPoints) {
+  imgNeuesSpiel_Click(screen);
+  const auto board = spiel.lstWiederHolen;
+  const auto numbers = screen.numbers;
+  for (int points = 400; points >= -100; points -= 100) {
+    LoseLevel();
+    NaechsterLevelBlinkt(screen);
+    screen.tiles.fill(Fehler);
+    cmdWiederholen_Click(screen);
+    EXPECT_EQ(spiel.Punkte, points);
+    EXPECT_EQ(spiel.lstWiederHolen, board);
+    EXPECT_EQ(screen.numbers, numbers);
+    EXPECT_EQ(Counts() + LevelPoints(), "[_][0]69_1___");
+    ExpectCleanLevel();
+  }
+  EXPECT_EQ(Points(), "____0");
+}
+
+TEST_F(Rules, BehindTheLastLevelTheGameEnds) {
+  SpielAbLevelBeginnen(screen, kLetztesLevel - 3, 2);
+  spiel.Bestenschwelle = spiel.Punkte + 450;
   for (int level = kLetztesLevel - 2; level <= kLetztesLevel; ++level) {
     EXPECT_EQ(spiel.Level, level);
-    GewinneLevel();
-    imgNextLevel_Click(ansicht);
-    EXPECT_EQ(ansicht.IstSichtbar(Bedienung::imgBester), level == kLetztesLevel - 1);
-    if (level < kLetztesLevel)
-      ErwarteSaubereSpielphase();
+    ExpectCleanLevel();
+    WinLevel();
+    imgNextLevel_Click(screen);
+    EXPECT_EQ(screen.IstSichtbar(Bedienung::imgBester), level == kLetztesLevel - 1);
   }
-  ASSERT_EQ(ansicht.meldungen.size(), 2U);
-  EXPECT_EQ(ansicht.meldungen[1].lblMeldung, MeldungVielenDank().lblMeldung);
-  EXPECT_EQ(ansicht.bestenpruefungen, 1);
+  ASSERT_EQ(screen.messages.size(), 2U);
+  EXPECT_EQ(screen.messages[1].lblMeldung, MeldungVielenDank().lblMeldung);
+  EXPECT_EQ(screen.checksOfBest, 1);
   EXPECT_EQ(spiel.Punkte, 0);
-  EXPECT_TRUE(ansicht.beendet);
-  EXPECT_EQ(Zaehle(Kachel::Verdeckt), kZellen);
+  EXPECT_TRUE(screen.ended);
+  EXPECT_EQ(Count(Verdeckt), kZellen);
 }
 
-TEST_F(Kern, ZahlenStehenInDerReihenfolgeDesGangsVomEndeHer) {
+TEST_F(Rules, NumbersStandInTheOrderOfTheWalkFromTheEnd) {
   // Column 3 holds, from the top, runs of 2, 1 and 4, column 10 is full; the rows 1 and 10 hold
   // five gems alone, row 9 runs of 3, 1 and 1.
-  LegeBrett({1,  3,  5,  7,  13, 33, 63, 73, 10, 20, 30, 40, 50,
-             60, 70, 80, 90, 81, 82, 83, 85, 91, 93, 95, 97, 100});
-  BerechneZahlen(ansicht);
-  const std::pair<int, std::vector<int>> linien[] = {{11, {4, 1, 2, 0, 0}},  {21, {2, 1, 0, 0, 0}},
-                                                     {46, {10, 0, 0, 0, 0}}, {51, {1, 1, 1, 1, 1}},
-                                                     {91, {1, 1, 3, 0, 0}},  {96, {1, 1, 1, 1, 1}}};
-  for (const auto &[platz, zahlen] : linien) {
-    const auto linie = ansicht.zahlen.begin() + platz;
-    EXPECT_EQ(std::vector(linie, linie + kPlaetzeJeLinie), zahlen) << platz;
-    for (std::size_t k = 0; k < zahlen.size(); ++k)
-      EXPECT_EQ(ansicht.zahlSichtbar.at(static_cast<std::size_t>(platz) + k), zahlen[k] != 0);
+  LayBoard({1,  3,  5,  7,  13, 33, 63, 73, 10, 20, 30, 40, 50,
+            60, 70, 80, 90, 81, 82, 83, 85, 91, 93, 95, 97, 100});
+  BerechneZahlen(screen);
+  const std::pair<int, std::vector<int>> lines[] = {{11, {4, 1, 2, 0, 0}},  {21, {2, 1, 0, 0, 0}},
+                                                    {46, {10, 0, 0, 0, 0}}, {51, {1, 1, 1, 1, 1}},
+                                                    {91, {1, 1, 3, 0, 0}},  {96, {1, 1, 1, 1, 1}}};
+  for (const auto &[place, numbers] : lines) {
+    const auto line = screen.numbers.begin() + place;
+    EXPECT_EQ(std::vector(line, line + kPlaetzeJeLinie), numbers) << place;
+    for (std::size_t k = 0; k < numbers.size(); ++k)
+      EXPECT_EQ(screen.numberVisible.at(static_cast<std::size_t>(place) + k), numbers[k] != 0);
   }
   EXPECT_EQ(spiel.SarantenRest, 26);
   spiel = {};
-  BerechneZahlen(ansicht);
-  EXPECT_EQ(std::count(ansicht.zahlSichtbar.begin(), ansicht.zahlSichtbar.end(), true), 0);
+  BerechneZahlen(screen);
+  EXPECT_EQ(std::count(screen.numberVisible.begin(), screen.numberVisible.end(), true), 0);
 }
 
-TEST_F(Kern, JedeZelleHatDieGleicheChance) {
-  constexpr int kBretter = 1500;
-  constexpr std::array kJeBrett{36, 5, 12};  // Gems, start cells and marks.
-  using Uhr = std::uint64_t (*)(std::uint64_t);
-  // Three clocks: one that ticks at each draw, one that skips, one that stands for eight draws.
-  for (const Uhr uhr : {Uhr([](auto n) { return n; }), Uhr([](auto n) { return n * 1'000'003; }),
-                        Uhr([](auto n) { return n / 8; })}) {
-    zufall.Uhr = [uhr, n = std::uint64_t{0}]() mutable { return uhr(++n); };
-    std::array<std::array<int, kZellen>, kJeBrett.size()> anzahl{};
-    for (int brett = 0; brett < kBretter; ++brett) {
-      SpielAbLevelBeginnen(ansicht, kLetztesLevel - 1, kModusExperte);
-      for (std::size_t n = 0; n < kZellen; ++n) {
-        anzahl[0].at(n) += spiel.Feld.at(n + 1).IstSarant ? 1 : 0;
-        anzahl[1].at(n) += ansicht.kacheln.at(n + 1) == Kachel::Sarant ? 1 : 0;
-        anzahl[2].at(n) += ansicht.kacheln.at(n + 1) == Kachel::Markiert ? 1 : 0;
-      }
+TEST_F(Rules, EachCellHasTheSameChance) {
+  constexpr int kBoards = 1500;
+  std::array<std::array<int, kZellen>, 3> found{};  // Gems, start cells and marks.
+  for (int board = 0; board < kBoards; ++board) {
+    SpielAbLevelBeginnen(screen, kLetztesLevel - 1, kModusExperte);
+    for (std::size_t n = 0; n < kZellen; ++n) {
+      found[0].at(n) += spiel.Feld.at(n + 1).IstSarant ? 1 : 0;
+      found[1].at(n) += screen.tiles.at(n + 1) == Sarant ? 1 : 0;
+      found[2].at(n) += screen.tiles.at(n + 1) == Markiert ? 1 : 0;
     }
-    for (std::size_t art = 0; art < kJeBrett.size(); ++art) {
-      const auto [seltenste, haeufigste] =
-          std::minmax_element(anzahl[art].begin(), anzahl[art].end());
-      const int erwartet = kBretter * kJeBrett[art] / kZellen;
-      EXPECT_GT(*seltenste, erwartet * 3 / 5) << art;
-      EXPECT_LT(*haeufigste, erwartet * 3 / 2) << art;
-    }
+  }
+  for (const auto &[cells, perBoard] : {std::pair(found[0], 36), {found[1], 5}, {found[2], 12}}) {
+    const auto [rarest, mostFrequent] = std::minmax_element(cells.begin(), cells.end());
+    EXPECT_GT(*rarest, kBoards * perBoard / kZellen * 3 / 5) << perBoard;
+    EXPECT_LT(*mostFrequent, kBoards * perBoard / kZellen * 3 / 2) << perBoard;
   }
 }
 
-TEST_F(Kern, DieEchteUhrStehtNie) {
-  zufall = {};
-  SpielBeginnen(ansicht);
-  const auto brett = spiel.lstWiederHolen;
-  SpielBeginnen(ansicht);
-  EXPECT_NE(spiel.lstWiederHolen, brett);
+TEST_F(Rules, TheRealClockSeedsEachRunOfTheProgram) {
+  std::vector<std::string> board;
+  for (int run = 0; run < 3; ++run) {
+    zufall = {};
+    SpielBeginnen(screen);
+    EXPECT_NE(spiel.lstWiederHolen, board);
+    board = spiel.lstWiederHolen;
+  }
 }
 
 }  // namespace

@@ -12,59 +12,54 @@
 
 namespace {
 
-ArrayScreen ansicht;
+ArrayScreen screen;
 
 /// Ends the run as a finding.
-void Verlange(bool bedingung) {
-  if (!bedingung)
+void Require(bool condition) {
+  if (!condition)
     std::abort();
 }
 
 [[maybe_unused]] void ini(const QByteArray &bytes) {
   WriteFile(IniPfad(), bytes);
-  LeseIni(ansicht);
-  Verlange(IstModus(spiel.Spielmodus) && ansicht.meldungen.empty());
+  LeseIni(screen);
+  Require(IstModus(spiel.Spielmodus) && screen.messages.empty());
 }
 
 [[maybe_unused]] void spielstand(const QByteArray &bytes) {
-  const QString pfad = IniPfad() + ".sar";
-  WriteFile(pfad, bytes);
-  LadeSpielstand(ansicht, pfad);
-  Verlange(!ansicht.meldungen.empty() && IstModus(spiel.Spielmodus));
-  const bool gefragt = ansicht.antworten.empty();
-  const bool geladen = gefragt && ansicht.meldungen.size() == 1;
-  Verlange(gefragt || spiel.Level == 0);
-  Verlange(!geladen || (spiel.Level >= 1 && spiel.Level <= kLetztesLevel &&
-                        spiel.SarantenRest == 76 - spiel.Level - spiel.Startfelder));
-  SpeichereSpielstand(ansicht, pfad);
-  Verlange(!geladen || ansicht.meldungen.size() == 1);
+  const QString path = IniPfad() + ".sar";
+  WriteFile(path, bytes);
+  LadeSpielstand(screen, path);
+  Require(!screen.messages.empty() && IstModus(spiel.Spielmodus));
+  const bool loaded = screen.answers.empty() && screen.messages.size() == 1;
+  Require(!loaded || (spiel.Level >= 1 && spiel.Level <= kLetztesLevel &&
+                      spiel.SarantenRest == 76 - spiel.Level - spiel.Startfelder));
+  SpeichereSpielstand(screen, path);
+  Require(!loaded || screen.messages.size() == 1);
 }
 
 [[maybe_unused]] void beste(const QByteArray &bytes) {
   WriteFile(BestenlistePfad(), bytes);
-  BestenlisteLaden(ansicht);
+  BestenlisteLaden(screen);
   spiel.Punkte = 13600;
-  BestenlistePruefen(ansicht);
-  if (!spiel.Beste.BestenEintrag)
-    return;
-  BestenlisteSpeichern(ansicht);
-  const Bestenliste liste = spiel.Beste;
-  ansicht.meldungen.clear();
-  BestenlisteLaden(ansicht);
-  // A list that was saved can be loaded and says the same.
-  Verlange(ansicht.meldungen.empty() && spiel.Beste.lstName == liste.lstName &&
-           spiel.Beste.lstPunkte == liste.lstPunkte);
+  BestenlistePruefen(screen);
+  BestenlisteSpeichern(screen);
+  const Bestenliste list = spiel.Beste;
+  screen.messages.clear();
+  BestenlisteLaden(screen);  // A list that was saved can be loaded and says the same.
+  Require(screen.messages.empty() && spiel.Beste.lstName == list.lstName &&
+          spiel.Beste.lstPunkte == list.lstPunkte);
 }
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *daten, std::size_t groesse) {
-  static const QTemporaryDir ordner("/dev/shm/fuzz-XXXXXX");  // In memory.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+  static const QTemporaryDir folder("/dev/shm/fuzz-XXXXXX");  // In memory.
   spiel = {};
-  spiel.Datenordner = ordner.path().toStdString();
+  spiel.Datenordner = folder.path().toStdString();
   spiel.DatenordnerAktiv = true;
-  ansicht = {};
-  ansicht.antworten = {kJa};
-  FORMAT({reinterpret_cast<const char *>(daten), static_cast<qsizetype>(groesse)});
+  screen = {};
+  screen.answers = {kJa};
+  FORMAT({reinterpret_cast<const char *>(data), static_cast<qsizetype>(size)});
   return 0;
 }

@@ -13,7 +13,7 @@
 class DataFixture : public testing::Test {
  protected:
   QTemporaryDir folder;
-  ArrayScreen ansicht;
+  ArrayScreen screen;
 
   DataFixture() {
     spiel = {};
@@ -21,16 +21,10 @@ class DataFixture : public testing::Test {
     spiel.DatenordnerAktiv = true;
   }
   /// Exactly this one message since the last call, word for word.
-  void ExpectMessage(const Meldung &erwartet, const QByteArray &fall = "") {
-    ASSERT_EQ(ansicht.meldungen.size(), 1U) << fall.data();
-    EXPECT_EQ(ansicht.meldungen[0].lblMeldung, erwartet.lblMeldung) << fall.data();
-    EXPECT_EQ(ansicht.meldungen[0].lblTitel, erwartet.lblTitel) << fall.data();
-    ansicht.meldungen.clear();
-  }
-  static void ExpectGame(int level, int punkte, int levelpunkte, int modus) {
-    EXPECT_EQ(spiel.Level, level);
-    EXPECT_EQ(spiel.Punkte, punkte);
-    EXPECT_EQ(spiel.Levelpunkte, levelpunkte);
-    EXPECT_EQ(spiel.Spielmodus, modus);
+  void ExpectMessage(const Meldung &expected, const QByteArray &trace = "") {
+    ASSERT_EQ(screen.messages.size(), 1U) << trace.data();
+    EXPECT_EQ(screen.messages[0].lblMeldung, expected.lblMeldung) << trace.data();
+    EXPECT_EQ(screen.messages[0].lblTitel, expected.lblTitel) << trace.data();
+    screen.messages.clear();
   }
 };

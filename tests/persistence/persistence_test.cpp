@@ -1,155 +1,212 @@
 #include <map>
 
-#include "core/befehle.h"
 #include "persistence/iniLumbra.h"
 #include "persistence/modDateiHandling.h"
+#include "persistence/textdatei.h"
+#include "platform/modExistiertDatei.h"
 #include "tests/persistence/fixture.h"
 
-TEST_F(DataFixture, LiestDenModusUndLaesstDieDateiStehen) {
-  const std::map<std::pair<int, bool>, std::vector<QByteArray>> faelle = {
+using Settings = DataFixture;
+
+TEST_F(Settings, GiveTheModeAndStayAsTheyAre) {
+  const std::map<std::pair<int, bool>, std::vector<QByteArray>> cases = {
       {{1, true}, {"1\r\n"}},
       {{2, true}, {"-1\r\n"}},
       {{2, false}, {"0\r\n", "4\r\n", "Experte\r\n", "", "65539\r\n", QByteArray("3\0", 2)}},
       {{3, true}, {"3\nmehr"}}};
-  for (const auto &[ergebnis, dateien] : faelle) {
-    for (const QByteArray &bytes : dateien) {
+  for (const auto &[result, files] : cases) {
+    for (const QByteArray &bytes : files) {
       WriteFile(IniPfad(), bytes);
       spiel.Spielmodus = 1;
-      ansicht.modustext.clear();
-      LeseIni(ansicht);
-      EXPECT_EQ(spiel.Spielmodus, ergebnis.first) << bytes.left(20).data();
-      EXPECT_EQ(ansicht.modustext, ergebnis.second ? Moduszeile(3) : "") << bytes.left(20).data();
+      screen.modeText.clear();
+      LeseIni(screen);
+      EXPECT_EQ(spiel.Spielmodus, result.first) << bytes.data();
+      EXPECT_EQ(screen.modeText, result.second ? Moduszeile(3) : "") << bytes.data();
       EXPECT_EQ(ReadFile(IniPfad()), bytes);
     }
     SchreibeIni();
-    EXPECT_EQ(ReadFile(IniPfad()), QByteArray::number(ergebnis.first) + "\r\n");
+    EXPECT_EQ(ReadFile(IniPfad()), QByteArray::number(result.first) + "\r\n");
   }
 }
 
-class Spielstand : public DataFixture {
+class SavedGame : public DataFixture {
  protected:
-  QString pfad = folder.filePath("spiel.sar");
+  QString path = folder.filePath("spiel.sar");
 
-  Spielstand() {
+  SavedGame() {
     spiel.Level = 7;
     spiel.Punkte = 2900;
     spiel.Levelpunkte = 450;
   }
+  static void ExpectGame(int level, int points, int levelPoints, int mode) {
+    EXPECT_EQ(spiel.Level, level);
+    EXPECT_EQ(spiel.Punkte, points);
+    EXPECT_EQ(spiel.Levelpunkte, levelPoints);
+    EXPECT_EQ(spiel.Spielmodus, mode);
+  }
 };
 
-TEST_F(Spielstand, SchreibtByteFuerByteUndLaedtInEineSaubereSpielphase) {
-  SpeichereSpielstand(ansicht, pfad);
-  EXPECT_EQ(ReadFile(pfad), "7\r\n3350\r\n2\r\n");
+TEST_F(SavedGame, IsWrittenByteByByteAndLoadedIntoACleanLevel) {
+  SpeichereSpielstand(screen, path);
+  EXPECT_EQ(ReadFile(path), "7\r\n3350\r\n2\r\n");
   ExpectGame(7, 2900, 450, 2);
-  WriteFile(pfad, "3\n4711\n3");  // In this level no start cell writes over the text.
-  for (const Bedienung b :
-       {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern})
-    ansicht.Zeige(b, true);
-  ansicht.speichernErlaubt = true;
-  ansicht.timer = {{Pfeil::Start, 300}, {Pfeil::Weiter, 400}};
-  ansicht.antworten = {kJa};
-  LadeGewaehlteDatei(ansicht, pfad);
+  WriteFile(path, "3\n4711\n3");  // In this level no start cell writes over the text.
+  screen.visible[Bedienung::imgNextLevel] = screen.mayBeSaved = true;
+  screen.timers = {{Pfeil::Start, 300}, {Pfeil::Weiter, 400}};
+  screen.answers = {kJa};
+  LadeGewaehlteDatei(screen, path);
   ExpectMessage(FrageLaden(4, 3, "4711"));
   ExpectGame(4, 4711, 0, 3);
   EXPECT_EQ(spiel.SarantenRest, 72);
-  EXPECT_TRUE(ansicht.modustext.starts_with("Spielmodus:  Experte"));
-  for (const auto &[bedienung, sichtbar] : ansicht.sichtbar)
-    EXPECT_FALSE(sichtbar);
-  EXPECT_FALSE(ansicht.speichernErlaubt);
-  EXPECT_EQ(ansicht.timer[Pfeil::Start] + ansicht.timer[Pfeil::Weiter], 0);
+  EXPECT_TRUE(screen.modeText.starts_with("Spielmodus:  Experte"));
+  EXPECT_FALSE(screen.IstSichtbar(Bedienung::imgNextLevel) || screen.mayBeSaved);
+  EXPECT_EQ(screen.timers[Pfeil::Start] + screen.timers[Pfeil::Weiter], 0);
 }
 
-TEST_F(Spielstand, VorDemJaBleibtDasSpielWieEsWar) {
-  const auto Pruefe = [&](const QByteArray &bytes, const Meldung &meldung) {
-    WriteFile(pfad, bytes);
-    ansicht.timer = {{Pfeil::Weiter, 300}};
-    LadeSpielstand(ansicht, pfad);
-    ExpectMessage(meldung, bytes.left(20));
+TEST_F(SavedGame, BeforeTheYesTheRunningGameStays) {
+  const auto check = [&](const QByteArray &bytes, const Meldung &message) {
+    WriteFile(path, bytes);
+    screen.timers = {{Pfeil::Weiter, 300}};
+    LadeSpielstand(screen, path);
+    ExpectMessage(message, bytes.left(20));
     ExpectGame(7, 2900, 450, 2);
-    EXPECT_EQ(ansicht.timer[Pfeil::Weiter], 300);
+    EXPECT_EQ(screen.timers[Pfeil::Weiter], 300);
   };
-  Pruefe(" 000 \r\n500\r\n1\r\n", FrageLaden(1, 1, "500"));
-  Pruefe("40\r\n-7\r\n2", FrageLaden(41, 2, "-7"));
-  Pruefe("41\r\n2147483647\r\n2\r\nmehr", FrageLaden(42, 2, "2147483647"));
-  Pruefe("3\n\x80\n1", FrageLaden(4, 1, "€"));
-  const std::map<int, std::vector<QByteArray>> fehler = {
+  check(" 000 \r\n500\r\n1\r\n", FrageLaden(1, 1, "500"));
+  check("41\r\n2147483647\r\n2\r\nmehr", FrageLaden(42, 2, "2147483647"));
+  check("3\n\x80\n1", FrageLaden(4, 1, "€"));
+  const std::map<int, std::vector<QByteArray>> errors = {
       {5, {"7\r\n3350\r\n"}},
       {6,
        {"sieben\r\n1\r\n2\r\n", "7\r\n1\r\nNormal\r\n", QByteArray("7\0\n3350\n2\n", 10),
         " \n1\n2\n", "-\n1\n2\n", "1 2\n1\n2\n", "99999999999999999999x\n1\n2\n"}},
       {7,
        {"32767\n1\n2\n", "99999999999999999999\n1\n2\n", "-1\n1\n2\n", "7\n1\n0\n", "7\n1\n4\n"}}};
-  for (const auto &[nummer, dateien] : fehler) {
-    for (const QByteArray &bytes : dateien)
-      Pruefe(bytes, MeldungLesefehler(nummer));
-  }
+  for (const auto &[number, files] : errors)
+    for (const QByteArray &bytes : files)
+      check(bytes, MeldungLesefehler(number));
 }
 
-TEST_F(Spielstand, NachDemJaEndetDasSpielOderScheitertAnPunktenOhneWert) {
-  WriteFile(pfad, "3\r\n2147483648\r\n1\r\n");
-  ansicht.antworten = {kJa, kJa};
-  LadeSpielstand(ansicht, pfad);
-  ansicht.meldungen.erase(ansicht.meldungen.begin());
+TEST_F(SavedGame, AfterTheYesTheGameEndsOrFailsByPointsWithoutAValue) {
+  WriteFile(path, "3\r\n2147483648\r\n1\r\n");
+  screen.answers = {kJa, kJa};
+  LadeSpielstand(screen, path);
+  screen.messages.erase(screen.messages.begin());
   ExpectMessage(MeldungLesefehler(7));
   ExpectGame(3, 2900, 450, 2);
-  WriteFile(pfad, "32766\r\n500\r\n2\r\n");
-  LadeSpielstand(ansicht, pfad);
-  EXPECT_TRUE(ansicht.beendet);
+  WriteFile(path, "32766\r\n500\r\n2\r\n");
+  LadeSpielstand(screen, path);
+  EXPECT_TRUE(screen.ended);
 }
 
-class Beste : public DataFixture {
+class BestList : public DataFixture {
  protected:
-  Beste() {
+  BestList() {
     BestenlisteAnlegen();
-    BestenlisteLaden(ansicht);
+    BestenlisteLaden(screen);
   }
-  void Spiele(std::int32_t punkte, std::int16_t antwort) {
-    spiel.Punkte = punkte;
-    ansicht.antworten = {antwort};
-    BestenlistePruefen(ansicht);
+  void Offer(std::int32_t points, std::int16_t answer) {
+    spiel.Punkte = points;
+    screen.answers = {answer};
+    BestenlistePruefen(screen);
   }
 };
 
-TEST_F(Beste, NurEinAngenommenerPlatzIstEinEintrag) {
-  Spiele(13000, kJa);
+TEST_F(BestList, OnlyAnAcceptedPlaceIsAnEntry) {
+  Offer(13000, kJa);
   ExpectMessage(MeldungKeinBesteneintrag());
-  Spiele(13001, kNein);
+  Offer(13001, kNein);
   ExpectMessage(FrageBesteneintrag());
   EXPECT_EQ(spiel.Beste.BestenPlatz, 4);
   EXPECT_FALSE(spiel.Beste.BestenEintrag);
 }
 
-TEST_F(Beste, BeschaedigteDateiBleibtUndLaesstWeiterspielen) {
-  const QByteArray namen = "A\nB\nC\nD\nE\n";
+TEST_F(BestList, ADamagedFileStaysAndTheGameGoesOn) {
+  const QByteArray names = "A\nB\nC\nD\nE\n";
   const struct {
     QByteArray bytes;
-    int nummer, namen, punkte, platz;
-  } faelle[] = {
-      {"", 5, 0, 0, 0},
-      {"A\nB", 5, 2, 0, 0},
-      {namen + "900\n800\n700\n600\n", 5, 5, 4, 4},
-      {namen + "900\n800\n700\n600\nletzter", 6, 5, 5, 4},
-      {namen + "900\n800\n700\n600\n2147483648", 7, 5, 5, 4},
-      {namen + "900\nviele\n700\n600\n500\nmehr", 0, 5, 5, 1},  // Only the last entry is checked.
-      {namen + " 900\n800\n700\n600\n500", 0, 5, 5, 4},
+    int number, names, points, place;
+    const char *last;  ///< The lowest name after an entry.
+  } cases[] = {
+      {"", 5, 0, 0, 0, "Niemand"},
+      {"A\nB", 5, 2, 0, 0, "Niemand"},
+      {names + "900\n800\n700\n600\n", 5, 5, 4, 4, "Spieler"},
+      {names + "900\n800\n700\n600\nletzter", 6, 5, 5, 4, "Spieler"},
+      {names + "900\n800\n700\n600\n2147483648", 7, 5, 5, 4, "Spieler"},
+      {names + "900\nviele\n700\n600\n500\nmehr", 0, 5, 5, 1, "D"},  // Only the last is checked.
+      {names + " 900\n800\n700\n600\n500", 0, 5, 5, 4, "Spieler"},
   };
-  for (const auto &fall : faelle) {
+  for (const auto &c : cases) {
+    SCOPED_TRACE(c.bytes.data());
     spiel.Bestenschwelle = 77;
-    WriteFile(BestenlistePfad(), fall.bytes);
-    BestenlisteLaden(ansicht);
-    if (fall.nummer != 0) {
-      ExpectMessage(MeldungBesteNichtGelesen(fall.nummer), fall.bytes.left(30));
+    WriteFile(BestenlistePfad(), c.bytes);
+    BestenlisteLaden(screen);
+    if (c.number != 0) {
+      ExpectMessage(MeldungBesteNichtGelesen(c.number));
       EXPECT_EQ(spiel.Bestenschwelle, 77);
     }
-    EXPECT_EQ(static_cast<int>(spiel.Beste.lstName.size()), fall.namen);
-    EXPECT_EQ(static_cast<int>(spiel.Beste.lstPunkte.size()), fall.punkte);
-    EXPECT_EQ(ReadFile(BestenlistePfad()), fall.bytes);
-    Spiele(550, kJa);
-    EXPECT_EQ(spiel.Beste.BestenPlatz, fall.platz) << fall.bytes.left(30).data();
-    BestenlisteSpeichern(ansicht);
-    ansicht.meldungen.clear();
-    BestenlisteLaden(ansicht);
-    EXPECT_TRUE(ansicht.meldungen.empty()) << "a saved list can be loaded";
-    EXPECT_TRUE(!fall.bytes.contains("viele") || spiel.Beste.lstPunkte[2] == "0");
+    EXPECT_EQ(static_cast<int>(spiel.Beste.lstName.size()), c.names);
+    EXPECT_EQ(static_cast<int>(spiel.Beste.lstPunkte.size()), c.points);
+    EXPECT_EQ(ReadFile(BestenlistePfad()), c.bytes);
+    Offer(550, kJa);
+    EXPECT_EQ(spiel.Beste.BestenPlatz, c.place);
+    EXPECT_EQ(spiel.Beste.lstName.back(), c.last);
+    BestenlisteSpeichern(screen);
+    screen.messages.clear();
+    BestenlisteLaden(screen);
+    EXPECT_TRUE(screen.messages.empty()) << "a saved list can be loaded";
+    EXPECT_TRUE(!c.bytes.contains("viele") || spiel.Beste.lstPunkte[2] == "0");
   }
+}
+
+class TextFile : public testing::Test {
+ protected:
+  QTemporaryDir folder;
+  QString path = folder.filePath("datei");
+};
+
+TEST_F(TextFile, OnlyAMissingNameInAnExistingFolderIsMissing) {
+  WriteFile(path, "");
+  for (const char *name : {"", "/datei", "/fehlt/datei", "/datei/x"})
+    EXPECT_TRUE(ExistiertDatei(folder.path() + name)) << name;
+  EXPECT_FALSE(ExistiertDatei(folder.path() + "/fehlt"));
+  EXPECT_FALSE(ExistiertDatei(""));
+}
+
+TEST_F(TextFile, LineEnds) {
+  const struct {
+    QByteArray bytes;
+    QStringList lines;
+    Dateifehler error = Dateifehler::Keiner;
+  } cases[] = {
+      {"a\r\nb\r\nc", {"a", "b"}},
+      {"a\rb\n", {"a", "b"}},
+      {"\r\n\n", {"", ""}},
+      {"\n\r", {"", ""}},
+      {"a\r\n", {"a"}, Dateifehler::Dateiende},
+      {QByteArray("\0\n\0", 3), {QChar(0), QChar(0)}},
+      {"a\n" + QByteArray(kLaengsteZeile, 'x'), {"a", QString(kLaengsteZeile, 'x')}},
+      {"a\n" + QByteArray(10 << 20, 'x'), {"a"}, Dateifehler::Anderer},
+  };
+  for (const auto &c : cases) {
+    WriteFile(path, c.bytes);
+    const Textzeilen read = LiesZeilen(path, 2);
+    EXPECT_EQ(read.Zeilen, c.lines) << c.bytes.left(20).data();
+    EXPECT_EQ(read.Fehler, c.error) << c.bytes.left(20).data();
+  }
+}
+
+TEST_F(TextFile, TheCodePageKeepsEachByte) {
+  QByteArray all;
+  for (int byte = 0; byte < 256; ++byte)
+    all.append(static_cast<char>(byte));
+  all.replace("\n", "").replace("\r", "");
+  WriteFile(path, all + "\r\n");
+  const Textzeilen read = LiesZeilen(path, 1);
+  EXPECT_TRUE(read.Zeilen.value(0).contains("€\u0081‚ƒ"));
+  ASSERT_EQ(SchreibeZeilen(path, read.Zeilen), Dateifehler::Keiner);
+  EXPECT_EQ(ReadFile(path), all + "\r\n");
+  EXPECT_EQ(Speicherbar("Ju\u0308rg €\U0001F600 Ł\r\n?"), "Jürg € ?");
+  SchreibeZeilen(path, {"Jörg € »ß« 😀 Ł", "a\r\nb", ""});
+  EXPECT_EQ(ReadFile(path), "J\xF6rg \x80 \xBB\xDF\xAB ? ?\r\na??b\r\n\r\n");
 }
