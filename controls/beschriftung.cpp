@@ -46,22 +46,44 @@ void Beschriftung::ZeigeText(const std::string &text) {
   const int kleinste = static_cast<int>(schrift_.pixelSize() * kKleinsteSchrift);
   QFont schrift = schrift_;
   setFont(schrift);
-  while (!Passt(ganz) && schrift.pixelSize() > kleinste) {
+  while (!Passt(Umbrochen(ganz)) && schrift.pixelSize() > kleinste) {
     schrift.setPixelSize(schrift.pixelSize() - 1);
     setFont(schrift);
   }
-  QStringList zeilen = ganz.split('\n');
-  if (!wordWrap()) {
-    for (QString &zeile : zeilen)
-      zeile = fontMetrics().elidedText(zeile, Qt::ElideMiddle, width());
-  }
-  setText(zeilen.join('\n'));
+  QString gezeigt = Umbrochen(ganz);
+  int zeilen = wordWrap() ? height() / fontMetrics().lineSpacing() : 1;
+  for (; zeilen > 0 && !Passt(gezeigt); --zeilen)
+    gezeigt = Umbrochen(Gekuerzt(ganz, zeilen * width()));
+  setText(gezeigt);
 }
 
 bool Beschriftung::Passt(const QString &text) const {
   const int umbruch = wordWrap() ? Qt::TextWordWrap : 0;
   const QRect bedarf = fontMetrics().boundingRect(rect(), umbruch, text);
   return bedarf.width() <= width() && bedarf.height() <= height();
+}
+
+QString Beschriftung::Umbrochen(const QString &text) const {
+  if (!wordWrap())
+    return text;
+  QString umbrochen;
+  QString wort;
+  for (const QChar zeichen : text) {
+    wort = zeichen.isSpace() ? QString() : wort + zeichen;
+    if (fontMetrics().horizontalAdvance(wort) > width()) {
+      umbrochen += u'\n';
+      wort = zeichen;
+    }
+    umbrochen += zeichen;
+  }
+  return umbrochen;
+}
+
+QString Beschriftung::Gekuerzt(const QString &text, int breite) const {
+  QStringList zeilen = text.split('\n');
+  for (QString &zeile : zeilen)
+    zeile = fontMetrics().elidedText(zeile, Qt::ElideMiddle, breite);
+  return zeilen.join('\n');
 }
 
 void Beschriftung::SetzeFarbe(QRgb farbe) {

@@ -36,9 +36,9 @@ struct Texteintrag {
   bool umbruch = false;  ///< Lines that are too long continue on the next one.
 };
 
-/// A transparent label of plain text that fits its place: where the letters of a scale come out too
-/// wide, they are a little smaller, and what is too long even then, as the path of a folder can be,
-/// is shortened in its middle.
+/// A transparent label of plain text that always fits its place. Font hinting changes text widths
+/// with the scale factor, so a text that is too large gets a font up to 15 % smaller. A line that
+/// is still too long, such as the path of a folder, loses its middle.
 class Beschriftung : public QLabel {
   Q_OBJECT
 
@@ -51,6 +51,10 @@ class Beschriftung : public QLabel {
 
  private:
   bool Passt(const QString &text) const;
+  /// The text with line breaks in words that are wider than the label; QLabel wraps between words.
+  QString Umbrochen(const QString &text) const;
+  /// The text with the middle of each line left out that is wider. @param breite   pixels.
+  QString Gekuerzt(const QString &text, int breite) const;
 
   QFont schrift_;  ///< At its full size.
 };

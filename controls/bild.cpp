@@ -5,22 +5,13 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyleHints>
 #include <algorithm>
+#include <utility>
 
 #include "controls/beschriftung.h"
 #include "controls/bilder.h"
-
-namespace {
-
-quint64 losgelassen = 0;  ///< When the last release of a key came to a picture, in ms.
-
-bool IstWiederholung(const QKeyEvent &taste) {
-  // An X server tells each repeat as a release and a press of the same instant, and Qt recognises
-  // them only if it has read both by then.
-  return taste.isAutoRepeat() || (losgelassen != 0 && taste.timestamp() == losgelassen);
-}
-
-}  // namespace
+#include "controls/wiederholung.h"
 
 void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild) {
   // Undoing the painter's scale leaves a mere translation, for which Qt copies pixel by pixel.
@@ -59,7 +50,7 @@ void Bild::SetzeBild(const QString &name) {
 }
 
 QString Bild::Bildname() const {
-  return gedrueckt_ ? gedruecktesBild_ : bild_;
+  return gedrueckt_ && !gedruecktesBild_.isEmpty() ? gedruecktesBild_ : bild_;
 }
 
 void Bild::LadeVor() const {
@@ -90,18 +81,19 @@ bool Bild::IstErreichbar() const {
 }
 
 void Bild::Druecke(Qt::MouseButton taste) {
-  ZeigeGedrueckt(!gedruecktesBild_.isEmpty());
+  SetzeGedrueckt(true);
   if (druck_)
     druck_(taste);
 }
 
 void Bild::LasseLos(Qt::MouseButton taste, bool darueber) {
-  ZeigeGedrueckt(false);
-  if (klick_ && taste == Qt::LeftButton && darueber)
+  const bool gedrueckt = gedrueckt_;
+  SetzeGedrueckt(false);
+  if (klick_ && gedrueckt && taste == Qt::LeftButton && darueber)
     klick_();
 }
 
-void Bild::ZeigeGedrueckt(bool gedrueckt) {
+void Bild::SetzeGedrueckt(bool gedrueckt) {
   if (gedrueckt_ != gedrueckt) {
     gedrueckt_ = gedrueckt;
     update();
@@ -125,7 +117,17 @@ void Bild::paintEvent(QPaintEvent *ereignis) {
 
 void Bild::mousePressEvent(QMouseEvent *ereignis) {
   ereignis->setAccepted(IstBedienbar());
+  gedruecktUm_ = ereignis->timestamp();
   Druecke(ereignis->button());
+}
+
+void Bild::mouseDoubleClickEvent(QMouseEvent *ereignis) {
+  ereignis->setAccepted(IstBedienbar());
+  // The first press may have gone to a window that has closed, or to a button that has gone.
+  const quint64 abstand = ereignis->timestamp() - gedruecktUm_;
+  if (druck_ &&
+      abstand <= static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval()))
+    mousePressEvent(ereignis);
 }
 
 void Bild::mouseReleaseEvent(QMouseEvent *ereignis) {
@@ -139,19 +141,14 @@ void Bild::keyPressEvent(QKeyEvent *ereignis) {
     return;
   }
   const bool markieren = ereignis->modifiers().testFlag(Qt::ShiftModifier);
-  if (!IstWiederholung(*ereignis))  // What has the focus now may have come under the key meanwhile.
+  if (!IstWiederholung(*ereignis))  // The focus may have moved here while the key was down.
     Bediene(markieren ? Qt::RightButton : Qt::LeftButton);
-}
-
-void Bild::keyReleaseEvent(QKeyEvent *ereignis) {
-  losgelassen = ereignis->timestamp();
-  ereignis->ignore();
 }
 
 bool Bild::event(QEvent *ereignis) {
   // A window or a menu that opened meanwhile takes the release, which then never comes here.
   const auto verloren = {QEvent::WindowBlocked, QEvent::WindowDeactivate, QEvent::Leave};
   if (std::ranges::find(verloren, ereignis->type()) != verloren.end())
-    ZeigeGedrueckt(false);
+    SetzeGedrueckt(false);
   return QWidget::event(ereignis);
 }

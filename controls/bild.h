@@ -63,10 +63,12 @@ class Bild : public QWidget {
  protected:
   void paintEvent(QPaintEvent *ereignis) override;
   void mousePressEvent(QMouseEvent *ereignis) override;
+  /// The second press of a double click counts only on a control that takes presses, and only if
+  /// the first press was on this control, too.
+  void mouseDoubleClickEvent(QMouseEvent *ereignis) override;
   void mouseReleaseEvent(QMouseEvent *ereignis) override;
   /// Space presses the control that has the focus, Shift+Space with the right mouse button.
   void keyPressEvent(QKeyEvent *ereignis) override;
-  void keyReleaseEvent(QKeyEvent *ereignis) override;
   bool event(QEvent *ereignis) override;
 
   /// Paints anew what has another value, and so another name.
@@ -76,11 +78,12 @@ class Bild : public QWidget {
   bool IstErreichbar() const;
   void Druecke(Qt::MouseButton taste);
   void LasseLos(Qt::MouseButton taste, bool darueber);
-  void ZeigeGedrueckt(bool gedrueckt);
+  void SetzeGedrueckt(bool gedrueckt);
 
   QString bild_;
   QString gedruecktesBild_;  ///< Empty if a press does not show.
-  bool gedrueckt_ = false;
+  bool gedrueckt_ = false;   ///< A mouse button went down here and is still held.
+  quint64 gedruecktUm_ = 0;  ///< Time of the last press, in milliseconds.
   std::function<void()> klick_;
   std::function<void(Qt::MouseButton)> druck_;
   QAccessible::Role rolle_;

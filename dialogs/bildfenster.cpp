@@ -7,6 +7,7 @@
 #include "controls/bild.h"
 #include "controls/bilder.h"
 #include "controls/schirmwechsel.h"
+#include "platform/fenstersystem.h"
 
 namespace {
 
@@ -37,6 +38,8 @@ void Bildfenster::Platziere(const QWidget *hauptfenster, Lage lage) {
       break;
   }
   BehalteGroesse(this);
+  if (isHidden())
+    OhneTaskleiste(windowHandle());
 }
 
 void Bildfenster::showEvent(QShowEvent *ereignis) {

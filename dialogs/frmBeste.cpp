@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QShortcut>
 #include <QShowEvent>
+#include <QValidator>
 #include <algorithm>
 
 #include "controls/beschriftung.h"
@@ -11,6 +12,7 @@
 #include "controls/zifferreihe.h"
 #include "core/ansicht.h"
 #include "persistence/modBeste.h"
+#include "persistence/textdatei.h"
 #include "platform/modShellExecute.h"
 
 namespace {
@@ -34,6 +36,18 @@ const Bildeintrag kClear{"lblClear",
                          "Einträge zurücksetzen"};
 const Bildeintrag kEnde{"cmdEnde", {990, 4260, 2145, 495}, "knopfOk", "Fenster schließen", "OK"};
 
+/// Lets a text box take only what the list's file can hold, so that the player sees what is kept.
+class Speicherbares : public QValidator {
+ public:
+  using QValidator::QValidator;
+
+  State validate(QString &eingabe, int &stelle) const override {
+    stelle = static_cast<int>(Speicherbar(eingabe.left(stelle)).size());
+    eingabe = Speicherbar(eingabe);
+    return Acceptable;
+  }
+};
+
 }  // namespace
 
 frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
@@ -52,6 +66,7 @@ frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
     auto *name = new QLineEdit(this);
     name->setGeometry(Rechteck(lage));
     name->setFont(Schrift(12, true));
+    name->setValidator(new Speicherbares(name));
     name->setAccessibleName("Name " + nummer);
     txtSpieler_.at(static_cast<std::size_t>(platz)) = name;
 
@@ -63,7 +78,11 @@ frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
   lblClear_ = new Bild(this, kClear);
   lblClear_->SetzeKlick([this] { cmdClear_Click(); });
   (new Bild(this, kEnde))->SetzeKlick([this] { cmdEnde_Click(); });
-  cmdClear_ = new QShortcut(Qt::ALT | Qt::Key_A, this, [this] { cmdClear_Click(); });
+  // Enabled in the entry mode, too: a disabled shortcut would type an "a" into the name.
+  new QShortcut(Qt::ALT | Qt::Key_A, this, [this] {
+    if (cmdClearSichtbar_)
+      cmdClear_Click();
+  });
   BestenlisteLaden(ansicht_);
 }
 
@@ -115,7 +134,7 @@ void frmBeste::Form_Activate() {
   }
   EingabeSperren();
   if (beste.BestenEintrag) {
-    cmdClear_->setEnabled(false);
+    cmdClearSichtbar_ = false;
     QLineEdit *eingabe = txtSpieler_.at(static_cast<std::size_t>(beste.BestenPlatz));
     eingabe->setReadOnly(false);
     eingabe->setFocusPolicy(Qt::StrongFocus);

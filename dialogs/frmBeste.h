@@ -10,7 +10,6 @@
 class Ansicht;
 class Bild;
 class QLineEdit;
-class QShortcut;
 class Zifferreihe;
 
 class frmBeste : public Bildfenster {
@@ -48,5 +47,5 @@ class frmBeste : public Bildfenster {
   std::array<QLineEdit *, kBeste> txtSpieler_{};
   std::array<Zifferreihe *, kBeste> imgDiggi_{};
   Bild *lblClear_;
-  QShortcut *cmdClear_;
+  bool cmdClearSichtbar_ = true;  ///< Alt+A acts; after an entry not until the window is made anew.
 };

@@ -1,6 +1,6 @@
 #include "dialogs/frmHintergrund.h"
 
-#include <QEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
@@ -9,43 +9,48 @@
 #include "controls/bilder.h"
 #include "platform/fenstersystem.h"
 
+namespace {
+
+constexpr QRgb kGrundfarbe = 0xff666f7b;  ///< The mean colour of the picture.
+
+}  // namespace
+
 frmHintergrund::frmHintergrund(QWidget *hauptfenster)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), hauptfenster_(hauptfenster) {
-  const QScreen *schirm = hauptfenster->screen();
-  setGeometry(schirm->geometry());
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
+      hauptfenster_(hauptfenster) {
+  setGeometry(hauptfenster->screen()->geometry());
   setFixedSize(size());
   setAttribute(Qt::WA_OpaquePaintEvent);
-  winId();  // The window must exist before its entry in the task bar can be refused.
+  create();
   OhneTaskleiste(windowHandle());
-  // The game is not to wait for the picture behind it.
-  setUpdatesEnabled(false);
-  hauptfenster->installEventFilter(this);
-}
-
-bool frmHintergrund::eventFilter(QObject *hauptfenster, QEvent *ereignis) {
-  if (ereignis->type() == QEvent::Paint) {
-    hauptfenster->removeEventFilter(this);
-    QTimer::singleShot(0, this, [this] { setUpdatesEnabled(true); });
-  }
-  return false;
+  // Decoding the picture takes 11 ms. The main window paints first.
+  constexpr int kAufschub = 100;  // milliseconds
+  QTimer::singleShot(kAufschub, this, [this] {
+    Image1 = Streckbild("schreibtisch", size() * devicePixelRatioF());
+    update();
+  });
 }
 
 void frmHintergrund::paintEvent(QPaintEvent *ereignis) {
   Q_UNUSED(ereignis)
-  if (Image1.isNull())
-    Image1 = Streckbild("schreibtisch", size() * devicePixelRatioF());
   QPainter maler(this);
   maler.setRenderHint(QPainter::SmoothPixmapTransform);
-  maler.drawPixmap(rect(), Image1);
+  if (Image1.isNull())
+    maler.fillRect(rect(), QColor(kGrundfarbe));
+  else
+    maler.drawPixmap(rect(), Image1);
 }
 
-bool frmHintergrund::event(QEvent *ereignis) {
-  const bool klick = ereignis->type() == QEvent::MouseButtonPress;
-  if (klick)  // Not on mere activation, which would undo the minimising of the game at once.
-    hauptfenster_->setWindowState(hauptfenster_->windowState() & ~Qt::WindowMinimized);
-  if (klick || ereignis->type() == QEvent::WindowActivate) {
-    hauptfenster_->raise();
-    hauptfenster_->activateWindow();
+void frmHintergrund::mousePressEvent(QMouseEvent *ereignis) {
+  Q_UNUSED(ereignis)
+  hauptfenster_->setWindowState(hauptfenster_->windowState() & ~Qt::WindowMinimized);
+  QList<QWidget *> fenster{hauptfenster_};
+  for (QWidget *anderes : hauptfenster_->findChildren<QWidget *>()) {
+    if (anderes->windowType() == Qt::Dialog && !anderes->isHidden())
+      fenster.append(anderes);
   }
-  return QWidget::event(ereignis);
+  for (QWidget *eines : fenster) {
+    eines->raise();
+    eines->activateWindow();  // Some window managers raise a window only when it is activated.
+  }
 }

@@ -9,15 +9,15 @@ class frmHintergrund : public QWidget {
   Q_OBJECT
 
  public:
-  /// Covers the screen of the main window, which it brings to the front whenever it is activated.
+  /// Covers the screen of the main window. A click brings the game's windows to the front, also if
+  /// they were minimised. The cover never takes the focus.
   explicit frmHintergrund(QWidget *hauptfenster);
 
  protected:
   void paintEvent(QPaintEvent *ereignis) override;
-  bool event(QEvent *ereignis) override;
-  bool eventFilter(QObject *hauptfenster, QEvent *ereignis) override;
+  void mousePressEvent(QMouseEvent *ereignis) override;
 
  private:
   QWidget *hauptfenster_;
-  QPixmap Image1;  ///< The stone, which is stretched to the size of the screen.
+  QPixmap Image1;  ///< Stretched to the size of the screen; null until it is decoded.
 };

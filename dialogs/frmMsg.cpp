@@ -4,11 +4,11 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWindow>
-#include <utility>
 #include <vector>
 
 #include "controls/beschriftung.h"
 #include "controls/bild.h"
+#include "controls/wiederholung.h"
 #include "core/spiel.h"
 #include "platform/modShellExecute.h"
 #include "platform/tastenplatz.h"
@@ -62,7 +62,7 @@ const Meldelayout &LayoutJa() {
       {0, 0, 5880, 3540},
       {"lblName", {930, 180, 3915, 315}, 12, true, kHellgrau},
       {60, 750, 5745, 2025},
-      {"lblMeldung", {120, 30, 5475, 825}, 9.75, true, kBlau},
+      {"lblMeldung", {120, 30, 5475, 825}, 9.75, true, kBlau, "", kMitteOben, true},
       {"lblTitel", {60, 900, 5505, 1035}, 9.75, true, kMagenta, "", kMitteOben, true},
       {{{"Image1", {5460, 60, 315, 315}, "schliessen", "schließen", "Schließen"}, kAbgebrochen},
        {{"lblNein", {480, 2910, 2205, 375}, "", "Fenster schließen ohne Bestätigung", "Nein"},
@@ -78,7 +78,7 @@ const Meldelayout &LayoutOk() {
       {0, 0, 5805, 3420},
       {"lblName", {960, 180, 4155, 435}, 14.25, false, kHellgrau},
       {60, 780, 5655, 2025},
-      {"lblMeldung", {30, 60, 5445, 825}, 9.75, true, kBlau},
+      {"lblMeldung", {30, 60, 5445, 825}, 9.75, true, kBlau, "", kMitteOben, true},
       {"lblTitel", {30, 930, 5505, 1005}, 9.75, true, kPurpur, "", kMitteOben, true},
       {{{"Image2", {5370, 90, 315, 315}, "schliessen", "schließen", "Schließen"}, kOhneAntwort},
        {{"lblOk", {1800, 2910, 2175, 405}, "", "Fenster schließen", "OK"}, kOhneAntwort}},
@@ -124,16 +124,25 @@ void Meldefenster::Antworte(std::int16_t antwort) {
 }
 
 void Meldefenster::mousePressEvent(QMouseEvent *ereignis) {
-  gegriffen_ = ereignis->button() == Qt::LeftButton;
+  griff_.reset();
+  if (ereignis->button() == Qt::LeftButton)
+    griff_ = ereignis->position().toPoint();
 }
 
 void Meldefenster::mouseMoveEvent(QMouseEvent *ereignis) {
-  // Asked a second time, the window manager would move the window after the button is released.
-  if (std::exchange(gegriffen_, false) && ereignis->buttons() & Qt::LeftButton)
-    windowHandle()->startSystemMove();
+  if (!griff_ || !(ereignis->buttons() & Qt::LeftButton))
+    return;
+  // A second request would make the window manager move the window after the release.
+  if (windowHandle()->startSystemMove())
+    griff_.reset();
+  else  // The window manager cannot.
+    move(ereignis->globalPosition().toPoint() - *griff_);
 }
 
 void Meldefenster::keyPressEvent(QKeyEvent *ereignis) {
+  constexpr Qt::KeyboardModifiers kOhneBedeutung = Qt::ShiftModifier | Qt::KeypadModifier;
+  if (ereignis->modifiers() & ~kOhneBedeutung || IstWiederholung(*ereignis))
+    return;
   if (ereignis->key() == Qt::Key_F1)
     OeffneHilfe("Meldefenster.pdf");
   const unsigned platz = IstFremderBuchstabe(ereignis->key()) ? Tastenplatz(*ereignis) : 0;

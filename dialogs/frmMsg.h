@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "core/meldungen.h"
 #include "dialogs/bildfenster.h"
@@ -30,7 +31,7 @@ class Meldefenster : public Bildfenster {
 
   const Meldelayout &layout_;
   Lage lage_;
-  bool gegriffen_ = false;
+  std::optional<QPoint> griff_;  ///< Where the mouse holds the window, in its coordinates.
 };
 
 /// A question; `spiel.Antwort` holds the answer when the window has closed. Until the player has

@@ -11,6 +11,7 @@
 
 #include "controls/beschriftung.h"
 #include "controls/bilder.h"
+#include "controls/wiederholung.h"
 #include "core/befehle.h"
 #include "dialogs/frmHintergrund.h"
 #include "dialogs/zugang.h"
@@ -49,6 +50,9 @@ void RichteAnwendungEin(QApplication &anwendung) {
   auto *uebersetzung = new QTranslator(&anwendung);
   if (uebersetzung->load(":/uebersetzung/qtbase_de.qm"))
     QApplication::installTranslator(uebersetzung);
+  anwendung.installEventFilter(new Tastenwache(&anwendung));
+  // winId() of a message window would make native windows of the main window's children.
+  QApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
   // A menu bar would ask the session bus for a place on the desktop.
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication::setDesktopFileName("example.glanzgrube.Glanzgrube");
@@ -69,10 +73,11 @@ void Main(frmSpielfeld &fenster, const QString &datenwurzel) {
     BestenlisteAnlegen();
   BestenlisteLaden(fenster);
   WarteAufSpiel(fenster);
-  if (!IstWayland()) {  // The cover goes first, so that the main window ends up above it.
+  if (!IstWayland()) {  // The cover first: the main window must end up above it.
     auto *hintergrund = new frmHintergrund(&fenster);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, hintergrund, &QObject::deleteLater);
     hintergrund->show();
   }
   fenster.show();
+  fenster.raise();  // Without a window manager the order of creation decides.
 }

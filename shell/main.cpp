@@ -26,6 +26,7 @@ void SagWasFehlt(QtMsgType art, const QMessageLogContext &ort, const QString &te
 }  // namespace
 
 int main(int argc, char *argv[]) {
+  argc = 1;  // The game has no command line; Qt would act on options of its own.
   vorher = qInstallMessageHandler(SagWasFehlt);
   QApplication anwendung(argc, argv);
   qInstallMessageHandler(nullptr);

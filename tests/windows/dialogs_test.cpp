@@ -15,7 +15,7 @@ TEST_F(Meldungen, SchliessenNurDurchEineAntwort) {
       {"lblJa", kJa}, {"lblNein", kNein}, {"Image1", kAbgebrochen}, {"", kAbgebrochen}};
   for (const auto &[knopf, antwort] : faelle) {
     Then<frmMsgJa>([name = knopf](frmMsgJa &fenster) {
-      for (const char *taste : {"Return", "Enter", "F1", "Space"})
+      for (const char *taste : {"Return", "Enter", "F1", "Space", "Ctrl+J", "Alt+N", "Meta+Esc"})
         Press(fenster, taste);
       QTest::mousePress(Find(fenster, "lblJa"), Qt::LeftButton);
       QTest::mouseRelease(Find(fenster, "lblJa"), Qt::LeftButton, {}, QPoint(-50, 0));
@@ -66,6 +66,60 @@ TEST_F(Meldungen, StehenAnIhremOrtUndLassenDenPfeilBlinken) {
   Verliere();
   const Bild *pfeil = Find(*board, "imgWeiter");
   EXPECT_TRUE(QTest::qWaitFor([&] { return pfeil->Bildname() == "pfeil0"; }, 2000));
+}
+
+TEST_F(Meldungen, DerZweiteDruckEinesDoppelklicksGiltNurWoDerErsteGalt) {
+  Click("imgNeuesSpiel");
+  const auto Send = [&](const QByteArray &name, Qt::MouseButton button, QEvent::Type press,
+                        int time) {
+    for (const auto type : {press, QEvent::MouseButtonRelease}) {
+      QMouseEvent event(type, {5, 5}, {5, 5}, button, button, {});
+      event.setTimestamp(static_cast<quint64>(time));
+      QApplication::sendEvent(Find(*board, name), &event);
+    }
+  };
+  int cell = 1;
+  while (board->LiesKachel(cell) != Kachel::Verdeckt)
+    ++cell;
+  const QByteArray name = "imgSar" + QByteArray::number(cell);
+  Send(name, Qt::RightButton, QEvent::MouseButtonDblClick, 100'000);
+  EXPECT_EQ(board->LiesKachel(cell), Kachel::Verdeckt);
+  Send(name, Qt::RightButton, QEvent::MouseButtonPress, 200'000);
+  EXPECT_EQ(board->LiesKachel(cell), Kachel::Markiert);
+  Send(name, Qt::RightButton, QEvent::MouseButtonDblClick, 200'100);
+  EXPECT_EQ(board->LiesKachel(cell), Kachel::Verdeckt);
+  // A question would fail the test.
+  Send("imgNeuesSpiel", Qt::LeftButton, QEvent::MouseButtonDblClick, 300'000);
+  Send("imgNeuesSpiel", Qt::LeftButton, QEvent::MouseButtonRelease, 300'010);
+}
+
+TEST_F(Meldungen, EineGehalteneTasteGiltNichtImNaechstenFenster) {
+  const auto Send = [](QEvent::Type type, quint64 time, QWidget *target) {
+    QKeyEvent event(type, Qt::Key_J, {}, "j");
+    event.setTimestamp(time);
+    QApplication::sendEvent(target, &event);
+  };
+  spiel.Punkte = 20000;
+  Then<frmMsgJa>([&](frmMsgJa &window) { Send(QEvent::KeyPress, 1000, &window); });
+  Then<frmBeste>([&](frmBeste &window) {
+    auto *name = window.findChild<QLineEdit *>();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    for (const quint64 time : {1030U, 1060U}) {  // As an X server reports a repeat.
+      Send(QEvent::KeyRelease, time, name);
+      Send(QEvent::KeyPress, time, name);
+    }
+    EXPECT_EQ(name->text(), "Spieler");
+    Send(QEvent::KeyRelease, 1090, name);
+    Send(QEvent::KeyPress, 1200, name);
+    EXPECT_EQ(name->text(), "j");
+    Press(*name, "Alt+A");
+    EXPECT_EQ(name->text(), "j");
+    name->clear();
+    QTest::keyClicks(name, QString::fromUtf8("Łu\u0308€"));
+    EXPECT_EQ(name->text(), "ü€");
+    window.close();
+  });
+  board->BestenlistePruefen();
 }
 
 using Optionen = WindowFixture;

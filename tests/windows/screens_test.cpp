@@ -189,15 +189,18 @@ TEST_F(WindowFixture, AufEinemDichterenSchirmWerdenDieBilderScharf) {
   EXPECT_EQ(Mitte(Find(*board, "imgSar1")->grab()), Mitte(Katalogbild("platte1", 2)));
 }
 
-TEST_F(WindowFixture, EineMeldungKuerztEinenLangenPfad) {
-  spiel.Datenordner = "/heim/" + std::string(200, 'x') + "/nachtkammern";
-  Then<frmMsgJa>([](frmMsgJa &fenster) {
-    const QRegularExpression gekuerzt(
-        "^Im Ordner /heim/x+….*/nachtkammern\nbefindet .*Spielstand!$");
-    EXPECT_TRUE(gekuerzt.match(Text(fenster, "lblMeldung")).hasMatch());
-    fenster.close();
-  });
-  board->Frage(FrageSucheSpielstand());
+TEST_F(WindowFixture, EineMeldungBrichtEinenLangenPfadUmUndKuerztEinenZuLangen) {
+  for (const auto &[length, pattern] : {std::pair(90, "x{90}"), {900, "x+…x+"}}) {
+    spiel.Datenordner = "/heim/" + std::string(static_cast<std::size_t>(length), 'x') + "/kammern";
+    Then<frmMsgJa>([pattern = pattern](frmMsgJa &fenster) {
+      const QRegularExpression shown(
+          QString("^ImOrdner/heim/%1/kammernbefindet.*Spielstand!$").arg(pattern));
+      const QString text = Text(fenster, "lblMeldung").remove(QRegularExpression("\\s"));
+      EXPECT_TRUE(shown.match(text).hasMatch()) << text.toStdString();
+      fenster.close();
+    });
+    board->Frage(FrageSucheSpielstand());
+  }
 }
 
 }  // namespace
