@@ -95,11 +95,11 @@ Meldung MeldungVielenDank() {
 Meldung MeldungInfo() {
   return {kKlangBlip,
           "Spielidee und Programmierung:\r\n"
-          "Werkstatt Glanzgrube\r\n"
-          "werkstatt.glanzgrube.example",
+          "Spielewerkstatt Silbergrund\r\n"
+          "www.silbergrund.example",
           "Grafik:\r\n"
-          "Atelier Glanzgrube\r\n"
-          "atelier.glanzgrube.example"};
+          "Atelier am Mühlgraben\r\n"
+          "www.muehlgraben.example"};
 }
 
 Meldung MeldungKeineFestplatte() {
