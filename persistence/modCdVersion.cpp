@@ -1,6 +1,7 @@
 #include "persistence/modCdVersion.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include "platform/modExistiertDatei.h"
 #include "platform/pfade.h"
@@ -12,7 +13,8 @@ QString Datenpfad(const QString &name) {
 }
 
 QString Dialogordner() {
-  return QString::fromStdString(spiel.Datenordner);
+  const QString ordner = QString::fromStdString(spiel.Datenordner);
+  return ordner.isEmpty() || QDir().mkpath(ordner) ? ordner : QFileInfo(ordner).path();
 }
 
 void LegeDatenordnerFest(Ansicht &ansicht, const QString &wurzel) {

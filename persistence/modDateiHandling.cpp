@@ -49,7 +49,7 @@ void MeldeLesefehler(Ansicht &ansicht, Dateifehler fehler) {
 }  // namespace
 
 bool SpielstandVorhanden() {
-  return QDirIterator(Datenpfad(""), {"*" + kEndung}, QDir::Files).hasNext();
+  return QDirIterator(Datenpfad(""), {"*" + kEndung}, QDir::Files | QDir::Hidden).hasNext();
 }
 
 void SucheSpielstand(Ansicht &ansicht, bool &weiter) {

@@ -1,16 +1,14 @@
 /// @file
-/// In what the file dialogs differ between systems.
+/// The file dialog.
 #pragma once
 
-class QFileDialog;
+#include <QFileDialog>
+#include <QString>
 
-/// Keeps Qt from remembering anything of the dialogs. Must be called before one is made.
+/// Lets the player choose a game file, existing or not, and asks nothing about it. Returns its full
+/// path; empty if the player cancels.
 ///
-/// Windows: does nothing. The system's dialog remembers for itself, and Qt in the registry.
-void MerkeNichts();
-
-/// Shows a dialog that is ready but for its look, and waits for it; true if a name was chosen.
-///
-/// Windows: the system's own dialog. Other systems: Qt's, which is German on a machine of any
-/// language.
-bool ZeigeDateidialog(QFileDialog &dialog);
+/// Windows: the system's own dialog. Other systems: Qt's, in German on a machine of any language.
+/// @param ordner   the folder in which the dialog opens; empty if it does not matter.
+QString WaehleSpieldatei(QFileDialog::AcceptMode modus, QWidget *besitzer, const QString &titel,
+                         const QString &ordner);

@@ -1,15 +1,20 @@
 #include "platform/dateidialog.h"
 
-#include <QFileDialog>
+#include <QDialogButtonBox>
 #include <QFileIconProvider>
+#include <QFileInfo>
 #include <QFileSystemModel>
 #include <QIdentityProxyModel>
+#include <QLineEdit>
 #include <QLocale>
+#include <QPushButton>
 #include <QSettings>
+
+#include "platform/pfade.h"
 
 namespace {
 
-/// Icons told from the kind alone. Qt would read each file, and wait forever at an endless one.
+/// Icons by kind alone. Qt would read each file, and wait for ever at an endless one.
 class Dateisymbole : public QFileIconProvider {
  public:
   QIcon icon(const QFileInfo &datei) const override {
@@ -18,10 +23,11 @@ class Dateisymbole : public QFileIconProvider {
   QString type(const QFileInfo &datei) const override { return datei.isDir() ? "Ordner" : "Datei"; }
 };
 
-/// Sizes and dates in German; Qt would write them in the language of the machine.
+/// Sizes and dates in German. QFileSystemModel writes them in the language of the machine, and no
+/// setting of Qt changes that.
 class DeutscheSpalten : public QIdentityProxyModel {
  public:
-  /// Belongs to the dialog, and so goes after the dialog's own model, which reads the icons.
+  /// The dialog's model, which reads the icons, is destroyed before this child of the dialog.
   explicit DeutscheSpalten(QFileDialog &dialog) : QIdentityProxyModel(&dialog) {
     dialog.setIconProvider(&symbole_);
     dialog.setProxyModel(this);
@@ -45,15 +51,48 @@ class DeutscheSpalten : public QIdentityProxyModel {
   Dateisymbole symbole_;
 };
 
+/// Takes what stands in the name field as one name. Qt takes quotes for a list of names and a
+/// leading ":" for a resource of the program, and ignores a name that is too long without a word.
+class Dateidialog : public QFileDialog {
+ public:
+  Dateidialog(AcceptMode modus, QWidget *besitzer, const QString &titel, const QString &ordner)
+      : QFileDialog(besitzer, titel, ordner, "Spieldateien (*.sar)") {
+    setOptions(DontUseNativeDialog | DontConfirmOverwrite);
+    setAcceptMode(modus);
+    setFileMode(AnyFile);
+    setWindowModality(Qt::WindowModal);
+    new DeutscheSpalten(*this);
+    feld_ = findChild<QLineEdit *>("fileNameEdit");
+    auto *knopf = findChild<QDialogButtonBox *>()->button(
+        modus == AcceptOpen ? QDialogButtonBox::Open : QDialogButtonBox::Save);
+    connect(feld_, &QLineEdit::textChanged, knopf,
+            [knopf](const QString &name) { knopf->setEnabled(!name.isEmpty()); });
+  }
+
+  QString Pfad() const {
+    const QString name = feld_->text();
+    if (!name.contains(u'"') && !name.startsWith(u':'))
+      return selectedFiles().value(0);
+    return name.startsWith(u'/') ? name : MitBackslash(directory().path()) + name;
+  }
+
+ private:
+  void accept() override {
+    if (QFileInfo(Pfad()).isDir())
+      setDirectory(Pfad());
+    else
+      QDialog::accept();
+  }
+
+  QLineEdit *feld_;
+};
+
 }  // namespace
 
-void MerkeNichts() {
-  // Qt would keep a history in the player's configuration. There it finds no place for one.
+QString WaehleSpieldatei(QFileDialog::AcceptMode modus, QWidget *besitzer, const QString &titel,
+                         const QString &ordner) {
+  // Qt keeps a history of folders in QtProject.conf. A path below /dev/null cannot be written.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
-}
-
-bool ZeigeDateidialog(QFileDialog &dialog) {
-  dialog.setOption(QFileDialog::DontUseNativeDialog);
-  new DeutscheSpalten(dialog);
-  return dialog.exec() == QDialog::Accepted;
+  Dateidialog dialog(modus, besitzer, titel, ordner);
+  return dialog.exec() == QDialog::Accepted ? dialog.Pfad() : QString();
 }

@@ -1,12 +1,14 @@
 #include "platform/dateidialog.h"
 
-#include <QFileDialog>
-
-void MerkeNichts() {}
-
-bool ZeigeDateidialog(QFileDialog &dialog) {
+QString WaehleSpieldatei(QFileDialog::AcceptMode modus, QWidget *besitzer, const QString &titel,
+                         const QString &ordner) {
+  QFileDialog dialog(besitzer, titel, ordner, "Spieldateien (*.sar)");
+  dialog.setAcceptMode(modus);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.setWindowModality(Qt::WindowModal);
   const bool gewaehlt = dialog.exec() == QDialog::Accepted;
-  // The owner takes no input until the dialog has gone, so that the system has passed it over.
-  dialog.parentWidget()->activateWindow();
-  return gewaehlt;
+  // When the dialog closes, Windows cannot activate the owner, which is still disabled.
+  besitzer->activateWindow();
+  return gewaehlt ? dialog.selectedFiles().value(0) : QString();
 }
