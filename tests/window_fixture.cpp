@@ -7,8 +7,8 @@
 
 WindowFixture::WindowFixture() {
   spiel = {};
-  QObject::connect(&takt, &QTimer::timeout, [this] { HandleWindow(); });
-  takt.start(1);
+  QObject::connect(&clock, &QTimer::timeout, [this] { HandleWindow(); });
+  clock.start(1);
   board = std::make_unique<frmSpielfeld>();
   Main(*board, folder.path());
 }
@@ -16,39 +16,39 @@ WindowFixture::WindowFixture() {
 WindowFixture::~WindowFixture() {
   EXPECT_TRUE(planned.empty()) << "a window that was expected did not open";
   board.reset();
-  for (QWidget *fenster : QApplication::topLevelWidgets())
-    delete fenster;
+  for (QWidget *window : QApplication::topLevelWidgets())
+    delete window;
 }
 
 void WindowFixture::HandleWindow() {
-  QWidget *fenster = QApplication::activeModalWidget();
-  std::erase_if(handled, [](const auto &f) { return !f || !f->isVisible(); });
-  if (!fenster || std::find(handled.begin(), handled.end(), fenster) != handled.end())
+  QWidget *window = QApplication::activeModalWidget();
+  std::erase_if(handled, [](const auto &w) { return !w || !w->isVisible(); });
+  if (!window || std::find(handled.begin(), handled.end(), window) != handled.end())
     return;
-  handled.emplace_back(fenster);
+  handled.emplace_back(window);
   if (planned.empty()) {
-    ADD_FAILURE() << "unexpected window " << fenster->metaObject()->className();
-    fenster->close();
+    ADD_FAILURE() << "unexpected window " << window->metaObject()->className();
+    window->close();
     return;
   }
   const auto action = planned.front();
   planned.pop_front();
   // A timer does not tick while its own tick is handled, and the action may open the next window.
-  QTimer::singleShot(0, fenster, [action, fenster] { action(fenster); });
+  QTimer::singleShot(0, window, [action, window] { action(window); });
 }
 
 int main(int argc, char *argv[]) {
   // Two screens side by side, of which the second one is twice as dense.
   const QTemporaryDir folder;
   QDir::setCurrent(folder.path());  // A full path has a colon under Windows, which ends the name.
-  WriteFile("schirme", R"({"screens": [
+  WriteFile("screens", R"({"screens": [
     {"name": "1", "x": 0, "y": 0, "width": 1280, "height": 1024, "dpr": 1},
     {"name": "2", "x": 1280, "y": 0, "width": 1280, "height": 1024, "dpr": 2}]})");
-  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=schirme");
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screens");
   qputenv("LC_ALL", "fr_FR.UTF-8");  // Any language but German.
   testing::InitGoogleTest(&argc, argv);
-  QApplication anwendung(argc, argv);
+  QApplication application(argc, argv);
   QDir::setCurrent(QDir::rootPath());
-  RichteAnwendungEin(anwendung);
+  RichteAnwendungEin(application);
   return RUN_ALL_TESTS();
 }

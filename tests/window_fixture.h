@@ -11,9 +11,6 @@
 #include <QTimer>
 #include <deque>
 #include <functional>
-#include <memory>
-#include <utility>
-#include <vector>
 
 #include "controls/bild.h"
 #include "core/spiel.h"
@@ -28,39 +25,38 @@ class WindowFixture : public testing::Test {
   ~WindowFixture() override;
 
   /// Acts on the next modal window of a kind. What is announced happens in its order, each action
-  /// as soon as its window is there; a window that nothing was announced for fails the test and
-  /// closes.
-  template <class Fenster>
-  void Then(std::function<void(Fenster &)> action) {
-    planned.push_back([action](QWidget *fenster) {
-      if (auto *erwartet = qobject_cast<Fenster *>(fenster))
-        return action(*erwartet);
-      ADD_FAILURE() << fenster->metaObject()->className();
-      fenster->close();
+  /// as soon as its window is there; a window that nothing was announced for fails the test.
+  template <class Window>
+  void Then(std::function<void(Window &)> action) {
+    planned.push_back([action](QWidget *window) {
+      if (auto *expected = qobject_cast<Window *>(window))
+        return action(*expected);
+      ADD_FAILURE() << window->metaObject()->className();
+      window->close();
     });
   }
   /// Answers the next question by a key.
-  void ThenAnswer(const char *taste) {
-    Then<Meldefenster>([taste](Meldefenster &fenster) { Press(fenster, taste); });
+  void ThenAnswer(const char *key) {
+    Then<Meldefenster>([key](Meldefenster &window) { Press(window, key); });
   }
 
   template <class Element = Bild>
-  static Element *Find(QWidget &fenster, const QString &name) {
-    auto *element = fenster.findChild<Element *>(name);
+  static Element *Find(QWidget &window, const QString &name) {
+    auto *element = window.findChild<Element *>(name);
     EXPECT_NE(element, nullptr) << name.toStdString();
     return element;
   }
-  static void Press(QWidget &fenster, const QString &taste) {
-    const QKeyCombination tasten = QKeySequence(taste)[0];
-    QTest::keyClick(&fenster, tasten.key(), tasten.keyboardModifiers());
+  static void Press(QWidget &window, const QString &key) {
+    const QKeyCombination keys = QKeySequence(key)[0];
+    QTest::keyClick(&window, keys.key(), keys.keyboardModifiers());
   }
-  static void Click(QWidget *ziel) { QTest::mouseClick(ziel, Qt::LeftButton); }
+  static void Click(QWidget *target) { QTest::mouseClick(target, Qt::LeftButton); }
   void Click(const QString &name) { Click(Find(*board, name)); }
-  static QString Text(QWidget &fenster, const QString &name) {
-    return Find<QLabel>(fenster, name)->text();
+  static QString Text(QWidget &window, const QString &name) {
+    return Find<QLabel>(window, name)->text();
   }
   /// Opens cells until the level of a game just begun is lost.
-  void Verliere() {
+  void Lose() {
     for (int n = 1; n <= kZellen; ++n)
       Click("imgSar" + QString::number(n));
     ASSERT_TRUE(board->IstSichtbar(Bedienung::cmdWiederholen));
@@ -75,5 +71,5 @@ class WindowFixture : public testing::Test {
 
   std::deque<std::function<void(QWidget *)>> planned;
   std::vector<QPointer<QWidget>> handled;  ///< Open modal windows that were acted on.
-  QTimer takt;
+  QTimer clock;
 };

@@ -1,109 +1,115 @@
-#include "shell/frmSpielfeld.h"
-
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 
 #include "controls/bilder.h"
 #include "controls/zifferreihe.h"
 #include "dialogs/frmBeste.h"
 #include "dialogs/frmHintergrund.h"
-#include "dialogs/frmOptionen.h"
 #include "tests/window_fixture.h"
 
 namespace {
 
-using Spielfeld = WindowFixture;
+using MainWindow = WindowFixture;
 
-TEST_F(Spielfeld, StehtInDerMitteVorEinemHintergrundDerEsZurueckholt) {
-  EXPECT_EQ(Find(*board, "frmSpielfeld")->size(), QSize(878, 729));
+TEST_F(MainWindow, StandsInTheMiddleBeforeACoverThatBringsItBack) {
   EXPECT_EQ(Find(*board, "imgZeigeStart")->Bildname(), "pfeilhoch0");
   EXPECT_EQ(spiel.Bestenschwelle, 13000);
-  const QPoint mitte = board->screen()->availableGeometry().center();
-  EXPECT_LE((board->frameGeometry().center() - mitte).manhattanLength(), 2);
-  QWidget *hintergrund = nullptr;
-  for (QWidget *fenster : QApplication::topLevelWidgets()) {
-    if (qobject_cast<frmHintergrund *>(fenster) && fenster->isVisible())
-      hintergrund = fenster;
-  }
-  ASSERT_NE(hintergrund, nullptr);
-  EXPECT_EQ(hintergrund->geometry(), board->screen()->geometry());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return hintergrund->updatesEnabled(); }));
-  Then<frmMsgJa>([&](frmMsgJa &fenster) {
+  const QPoint middle = board->screen()->availableGeometry().center();
+  EXPECT_LE((board->frameGeometry().center() - middle).manhattanLength(), 2);
+  QWidget *cover = nullptr;
+  for (QWidget *window : QApplication::topLevelWidgets())
+    if (qobject_cast<frmHintergrund *>(window) && window->isVisible())
+      cover = window;
+  ASSERT_NE(cover, nullptr);
+  EXPECT_EQ(cover->geometry(), board->screen()->geometry());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return cover->updatesEnabled(); }));
+  Then<frmMsgJa>([&](frmMsgJa &window) {
     board->showMinimized();
-    Click(hintergrund);
+    Click(cover);
     EXPECT_FALSE(board->isMinimized());
-    EXPECT_TRUE(fenster.isActiveWindow());
-    fenster.close();
+    EXPECT_TRUE(window.isActiveWindow());
+    window.close();
   });
   board->Frage(FrageBeenden());
-}
-
-TEST_F(Spielfeld, SprichtAuchInQtsFensternDeutsch) {
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
 }
 
-TEST_F(Spielfeld, ZeigtBeimSpielenAllesSofortUndEntziffertKeinBildMehr) {
+TEST_F(MainWindow, ShowsAllAtOnceAndDecodesNoPictureWhilePlaying) {
   QCoreApplication::processEvents();
-  const int geladen = GeladeneBilder();
-  const auto ErwarteNeuGezeichnet = [this] {
+  const int loaded = GeladeneBilder();
+  const auto ExpectPainted = [this] {
     QTest::qWait(20);
-    const QImage schirm = board->screen()->grabWindow(board->winId()).toImage();
-    EXPECT_EQ(schirm, board->grab().toImage());
+    const QImage screen = board->screen()->grabWindow(board->winId()).toImage();
+    EXPECT_EQ(screen, board->grab().toImage());
   };
   for (int level = 0; level < 3; ++level) {
     spiel.Punkte = 0;
     Click("imgNeuesSpiel");
-    ErwarteNeuGezeichnet();
-    Verliere();
-    const QImage fehler = board->findChildren<Zifferreihe *>().back()->grab().toImage();
-    EXPECT_EQ(fehler.copy(14, 0, 14, 28).convertToFormat(QImage::Format_RGB32),
+    ExpectPainted();
+    Lose();
+    const QImage errors = board->findChildren<Zifferreihe *>().back()->grab().toImage();
+    EXPECT_EQ(errors.copy(14, 0, 14, 28).convertToFormat(QImage::Format_RGB32),
               Katalogbild("rot2", 1).toImage().convertToFormat(QImage::Format_RGB32));
     Click("cmdWiederholen");
     EXPECT_EQ(spiel.Punkte, 400);
-    ErwarteNeuGezeichnet();
+    ExpectPainted();
   }
-  EXPECT_EQ(GeladeneBilder(), geladen);
+  EXPECT_EQ(GeladeneBilder(), loaded);
 }
 
-TEST_F(Spielfeld, LaesstDenGedruecktenKnopfLosWennEineFrageKommt) {
-  Bild *knopf = Find(*board, "lblInfo");
-  QTest::mousePress(knopf, Qt::LeftButton);
-  EXPECT_EQ(knopf->Bildname(), "cmdBeschreibungenFruen");
+TEST_F(MainWindow, ReleasesThePressedButtonWhenAQuestionComes) {
+  Bild *button = Find(*board, "lblInfo");
+  QTest::mousePress(button, Qt::LeftButton);
+  EXPECT_EQ(button->Bildname(), "cmdBeschreibungenFruen");
   ThenAnswer("N");
   board->Frage(FrageNeuesSpiel());
-  EXPECT_EQ(knopf->Bildname(), "cmdBeschreibungenAuswahl");
+  EXPECT_EQ(button->Bildname(), "cmdBeschreibungenAuswahl");
 }
 
-TEST_F(Spielfeld, LaesstDieTastenLiegenSolangeKeinHilfsmittelDaIst) {
+TEST_F(MainWindow, LeavesTheKeysAloneWithoutAssistiveTechnology) {
   Click("imgNeuesSpiel");
   const int rest = spiel.SarantenRest;
-  for (const char *taste : {"Tab", "Down", "Space", "Shift+Tab", "Return"})
-    Press(*board, taste);
+  for (const char *key : {"Tab", "Down", "Space", "Shift+Tab", "Return"})
+    Press(*board, key);
   EXPECT_EQ(board->focusWidget(), nullptr);
   EXPECT_EQ(spiel.SarantenRest, rest);
 }
 
-TEST_F(Spielfeld, ErreichtOhneMausNurWasEineMausErreicht) {
-  const auto Bediene = [this](const QString &name) { Find(*board, name)->Bediene(Qt::LeftButton); };
-  Bediene("imgNeuesSpiel");
-  for (const char *verborgen : {"cmdWiederholen", "imgNextLevel", "imgModus1"})
-    Bediene(verborgen);
+TEST_F(MainWindow, LetsOnlyThoseActWithoutAMouseWhomAMouseReaches) {
+  const auto Use = [this](const QString &name) { Find(*board, name)->Bediene(Qt::LeftButton); };
+  Use("imgNeuesSpiel");
+  for (const char *hidden : {"cmdWiederholen", "imgNextLevel", "imgModus1"})
+    Use(hidden);
   EXPECT_EQ(spiel.Level, 1);
   EXPECT_EQ(spiel.Spielmodus, kModusNormal);
-  Then<frmMsgJa>([&](frmMsgJa &fenster) {
+  Then<frmMsgJa>([&](frmMsgJa &window) {
     for (int n = 1; n <= kZellen; ++n)
-      Bediene("imgSar" + QString::number(n));
-    Bediene("imgEnde");
-    for (QAction *eintrag : board->findChildren<QAction *>())
-      eintrag->trigger();
-    EXPECT_TRUE(fenster.isVisible());
-    Press(fenster, "N");
+      Use("imgSar" + QString::number(n));
+    Use("imgEnde");
+    for (QAction *entry : board->findChildren<QAction *>())
+      entry->trigger();
+    EXPECT_TRUE(window.isVisible());
+    Press(window, "N");
   });
   board->Frage(FrageNeuesSpiel());
   EXPECT_EQ(spiel.SarantenRest, 75 - spiel.Startfelder);
   EXPECT_EQ(spiel.Fehler, 0);
   EXPECT_TRUE(spiel.SoundAn);
   EXPECT_EQ(board->findChild<frmBeste *>(), nullptr);
+}
+
+TEST_F(MainWindow, SavesUnderTheNameThatStandsInTheField) {
+  spiel.Level = 3;
+  for (const char *name : {"a b ", ":c"}) {
+    Then<QFileDialog>([name](QFileDialog &dialog) {
+      Find<QLineEdit>(dialog, "fileNameEdit")->setText(name);
+      QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Click("imgSpeichern");
+    EXPECT_EQ(ReadFile(DataFile(QString(name).trimmed() + ".sar")).left(1), "3") << name;
+  }
 }
 
 }  // namespace
