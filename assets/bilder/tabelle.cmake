@@ -229,7 +229,7 @@ foreach(zahl RANGE 1 9)
   bild(zahl${zahl} zahl 29 31 FIGUREN "<text x='14.5'>${zahl}</text>")
 endforeach()
 bild(zahl0  zahl 29 31 FIGUREN "")
-bild(zahl10 zahl 29 31 FIGUREN "<g font-family='Liberation Sans Narrow'><text x='10'>1</text><text x='19'>0</text></g>")
+bild(zahl10 zahl 29 31 FIGUREN "<g transform='scale(.82,1)'><text x='13.5'>1</text><text x='24.6'>0</text></g>")
 
 # The phases of the blinking arrows.
 set(phase 0)
