@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Installs a build into an empty folder and checks what a desktop looks for there, that the program
-# loads its libraries from nowhere else than the system does, and what hardens it.
+# Installs a build into an empty folder and checks what a desktop looks for there, and that the program
+# loads its libraries from nowhere else than the system does.
 # usage: install_test.sh BUILD_FOLDER
 set -euo pipefail
 
 bau=$(realpath "$1")
+quelle=$(realpath "$(dirname "$0")/../..")
 wurzel=$(mktemp -d)
 trap 'rm -rf "$wurzel"' EXIT
 DESTDIR=$wurzel cmake --install "$bau" --prefix /usr >/dev/null
@@ -12,8 +13,7 @@ cd "$wurzel/usr"
 
 kennung=example.glanzgrube.Glanzgrube
 erwartet=(bin/glanzgrube
-  share/man/man6/glanzgrube.6.gz share/man/de/man6/glanzgrube.6.gz
-  share/doc/glanzgrube/copyright share/doc/glanzgrube/changelog.gz
+  share/man/man6/glanzgrube.6 share/man/de/man6/glanzgrube.6
   share/glanzgrube/{WHOOSH,FRAGE,FEHLER,BLIP,START,TADA}.WAV
   share/glanzgrube/{saranten,Meldefenster,Bestespieler}.pdf
   "share/applications/$kennung.desktop" "share/metainfo/$kennung.metainfo.xml"
@@ -27,7 +27,7 @@ appstreamcli validate-tree --no-net "$wurzel"
 melde() { echo "$*"; exit 1; }
 
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$bau/CMakeCache.txt")
-[[ $(zcat share/doc/glanzgrube/changelog.gz) == "glanzgrube ($version) "* ]] ||
+[[ $(cat "$quelle/debian/changelog") == "glanzgrube ($version) "* ]] ||
   melde "the changelog does not begin with $version"
 [[ $(grep -m1 '<release ' "share/metainfo/$kennung.metainfo.xml") == *"\"$version\""* ]] ||
   melde "the AppStream data do not begin with $version"
@@ -37,11 +37,3 @@ laufpfad() { readelf -d "$1" | sed -n 's/.*(RU*N*PATH).*\[\(.*\)\]/\1/p'; }
 # An empty or a relative folder is one below the current folder, whatever that is.
 pfad=$(laufpfad "$bau/bin/glanzgrube")
 [[ -z $pfad || :$pfad: =~ ^(:/[^:]*)+:$ ]] || melde "run path in the build: $pfad"
-
-if grep -q '^CMAKE_BUILD_TYPE:[A-Z]*=Release$' "$bau/CMakeCache.txt"; then
-  merkmale=$(readelf --wide --file-header --dynamic --program-headers --dyn-syms bin/glanzgrube)
-  for merkmal in 'Type: +DYN' 'FLAGS.* NOW' GNU_RELRO __stack_chk_fail; do
-    grep -qE "$merkmal" <<<"$merkmale" || melde "not hardened: $merkmal"
-  done
-  ! grep -qaF "$bau" bin/glanzgrube || melde "the program tells where it was built"
-fi
