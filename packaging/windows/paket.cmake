@@ -29,7 +29,7 @@ include(windows/lizenzen.cmake)
 
 set(CPACK_GENERATOR ZIP NSIS)
 set(CPACK_PACKAGE_NAME glanzgrube)
-set(CPACK_PACKAGE_VENDOR "Werkstatt Glanzgrube")
+set(CPACK_PACKAGE_VENDOR "Spielewerkstatt Silbergrund")
 set(CPACK_PACKAGE_HOMEPAGE_URL "https://www.glanzgrube.example/")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/reihenfolge.cmake)
