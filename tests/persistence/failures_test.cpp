@@ -150,7 +150,7 @@ TEST_F(Failure, LinksAndModesStay) {
   SpeichereSpielstand(screen, Path("a.sar"));
   EXPECT_EQ(ReadFile(Path("c.sar")).left(1), "9");
   EXPECT_TRUE(QFileInfo(Path("b.sar")).isSymLink());
-  struct stat state {};
+  struct stat state = {};
   stat(qPrintable(Path("c.sar")), &state);
   EXPECT_EQ(state.st_mode & 0777U, 0640U);
   QFile::remove(Path("c.sar"));
