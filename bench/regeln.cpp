@@ -10,7 +10,7 @@
 #include "core/zug.h"
 #include "platform/datenwurzel.h"
 #include "shell/frmSpielfeld.h"
-#include "shell/iniMain.h"
+#include "shell/start.h"
 #include "tests/array_screen.h"
 
 namespace {

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
+#include <array>
 #include <cmath>
 #include <map>
 #include <utility>
@@ -17,7 +18,7 @@ constexpr double kStaerksteStreckung = 2;
 constexpr QPoint kZeigerspitze(5, 0);
 
 struct Katalog {
-  std::map<std::pair<QString, double>, QPixmap> bilder;  ///< By name and ratio of device pixels.
+  std::map<std::pair<QString, double>, QPixmap> bilder;  ///< By name and device pixel ratio.
   int geladen = 0;
 };
 Katalog katalog;
@@ -28,7 +29,7 @@ QString Ressource(const QString &name, int aufloesung) {
   return QFile::exists(stamm + ".png") ? stamm + ".png" : stamm + ".jpg";
 }
 
-/// The rendering of at least this resolution, or the largest that there is.
+/// The smallest rendering of at least this resolution, or else the largest.
 int Aufloesung(const QString &name, double mindestens) {
   int aufloesung = std::clamp(static_cast<int>(std::ceil(mindestens)), 1, kHoechsteAufloesung);
   while (aufloesung > 1 && !QFile::exists(Ressource(name, aufloesung)))
@@ -36,8 +37,8 @@ int Aufloesung(const QString &name, double mindestens) {
   return aufloesung;
 }
 
-/// The picture as rendered, or scaled down once from the next larger rendering if the enlargement
-/// is a fraction.
+/// The picture as rendered, or scaled down from the next larger rendering if the scale is not a
+/// whole number.
 QPixmap Lade(const QString &name, double geraetepixel) {
   ++katalog.geladen;
   const double vergroesserung = geraetepixel * Massstab();
@@ -66,11 +67,12 @@ QPixmap Katalogbild(const QString &name, double geraetepixel) {
 
 void LadeSpielbilder(double geraetepixel) {
   constexpr std::pair<const char *, int> kReihen[] = {
-      {"platte", 3}, {"pfeil", 2}, {"pfeilhoch", 2}, {"zahl", 11}, {"gruen", 11}, {"rot", 11}};
+      {"pfeil", 2}, {"pfeilhoch", 2}, {"zahl", 11}, {"gruen", 11}, {"rot", 11}};
   for (const auto &[stamm, anzahl] : kReihen)
     for (int i = 0; i < anzahl; ++i)
       Katalogbild(Reihenbild(stamm, i), geraetepixel);
-  Katalogbild(frmBilder::imgSarant(), geraetepixel);
+  for (const Kachel kachel : {Kachel::Verdeckt, Kachel::Markiert, Kachel::Fehler, Kachel::Sarant})
+    Katalogbild(Kachelbild(kachel), geraetepixel);
 }
 
 int GeladeneBilder() {
@@ -89,11 +91,9 @@ QCursor Handzeiger() {
                  kZeigerspitze.y());
 }
 
-QString frmBilder::imgPlatte(int index) {
-  return Reihenbild("platte", index);
-}
-QString frmBilder::imgSarant() {
-  return "sarant";
+QString Kachelbild(Kachel kachel) {
+  constexpr std::array kNamen{"platte1", "platte2", "platte0", "sarant"};  // As `Kachel` counts.
+  return kNamen.at(static_cast<std::size_t>(kachel));
 }
 QString frmBilder::imgPfeil(int phase) {
   return phase == kKeinPfeil ? QString() : Reihenbild("pfeil", phase);

@@ -1,44 +1,41 @@
 /// @file
-/// The catalogue of pictures. A picture is known by its name, and decoded when it is first asked
-/// for at a ratio of device pixels; from then on it is shared.
+/// The picture catalogue. A picture is decoded when it is first asked for at a device pixel ratio,
+/// and shared from then on.
 #pragma once
 
 #include <QCursor>
 #include <QPixmap>
 #include <QString>
 
-/// A picture at the exact size in device pixels, Massstab() included. Empty if there is none of
-/// this name.
+#include "core/spiel.h"
+
+/// A picture in exact device pixels, scaled by Massstab().
+/// @param geraetepixel   device pixel ratio. @return null if the name is empty.
 QPixmap Katalogbild(const QString &name, double geraetepixel);
 
-/// Decodes the pictures of tiles, numbers, digits and arrows, so that no move has to.
+/// Decodes the pictures of tiles, numbers, digits and arrows, so that no move decodes one.
 void LadeSpielbilder(double geraetepixel);
 
-/// How many pictures have been decoded since the process began.
+/// The number of pictures decoded since the process began.
 int GeladeneBilder();
 
-/// A background that is to be stretched to a size in device pixels, in the smallest rendering that
-/// is not enlarged more than twice by that, or else in the largest.
+/// A background that will be stretched. @param ziel   size in device pixels. @return the smallest
+/// rendering that is enlarged at most twice, or else the largest.
 QPixmap Streckbild(const QString &name, const QSizeF &ziel);
 
-/// The hand that every clickable picture shares as its mouse pointer.
+/// The mouse pointer of every clickable picture.
 QCursor Handzeiger();
 
-/// Tiles and arrows, by name.
+// Names of pictures that change in play.
+QString Kachelbild(Kachel kachel);
 namespace frmBilder {
-QString imgPlatte(int index);  ///< 0 wrong cell, 1 covered, 2 marked.
-QString imgSarant();
-QString imgPfeil(int phase);      ///< 0 yellow, 1 red, 2 no picture at all.
-QString imgPfeilhoch(int phase);  ///< As above, pointing upward.
+QString imgPfeil(int phase);      ///< Points left. 0 yellow, 1 red, `kKeinPfeil` no picture.
+QString imgPfeilhoch(int phase);  ///< The same, pointing up.
 }  // namespace frmBilder
-
-/// Clue numbers, by name.
 namespace frmZahlen {
-QString imgZahl(int zahl);  ///< 0 (an empty plate) to 10.
+QString imgZahl(int zahl);  ///< A clue number, 0 (empty) to 10.
 }
-
-/// Digits of the panel, by name; index 10 is the place with all segments unlit.
 namespace frmDigital {
-QString imgDiggi(int ziffer);  ///< Green, 0 to 10.
-QString imgRot(int ziffer);    ///< Red, 0 to 10.
+QString imgDiggi(int ziffer);  ///< A green digit, or `kLeereZiffer`.
+QString imgRot(int ziffer);    ///< The same in red.
 }  // namespace frmDigital

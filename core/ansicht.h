@@ -1,23 +1,22 @@
 /// @file
-/// The one contract between the rules and the screen. The main window implements it, and so do the
-/// tests. It holds no state of the rules; what the screen shows is read back from it where the
-/// rules say so.
+/// The interface between the rules and the screen. The main window implements it, and so do the
+/// tests. The rules read back from it which tile a cell shows and which buttons are visible.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "core/meldungen.h"
 #include "core/spiel.h"
 
-/// Controls that the rules show and hide. Which of them is visible is the phase of play.
+/// Controls that come and go in the course of a game. The level is won while `imgNextLevel` is
+/// visible, and lost while `cmdWiederholen` is visible.
 enum class Bedienung {
   imgNextLevel,
   cmdWiederholen,
-  imgSpeichern,
-  imgOeffnen,
+  imgSpeichern,  ///< Together with its menu entry.
+  imgOeffnen,    ///< Together with its menu entry.
   imgBester,
-  imgWeiter
+  imgWeiter,  ///< Is shown, but never hidden: an arrow disappears by `StoppePfeil`.
 };
 
 /// The two blinking arrows, each driven by a timer of its own.
@@ -26,11 +25,16 @@ enum class Pfeil {
   Weiter,  ///< `imgWeiter`, driven by `timNaechsterLevel`, points at `imgNextLevel`.
 };
 
-/// Phases of an arrow: yellow, red, or no picture at all.
-inline constexpr int kKeinPfeil = 2;
+inline constexpr int kKeinPfeil = 2;  ///< Phase in which an arrow has no picture.
 
-/// Rows of digit places in the panel; place 0 of a row holds the units.
-enum class Panelreihe { imgPunkte, imgLevel, imgAuswertung };
+/// The rows of the panel from top to bottom.
+enum class Panelreihe {
+  Punkte,        ///< `imgPunkte`(0) to (4)
+  Levelpunkte,   ///< `imgLevel`(0) to (2)
+  Fehlversuche,  ///< `imgAuswertung`(4) and (5)
+  NochOffen,     ///< `imgAuswertung`(2) and (3)
+  Level,         ///< `imgAuswertung`(0) and (1)
+};
 
 enum class Ziffernfarbe { Gruen, Rot };
 inline constexpr int kLeereZiffer = 10;  ///< The digit picture with all segments unlit.
@@ -45,13 +49,13 @@ class Ansicht {
   // Playfield. Cells and clue places are numbered from 1 to 100.
   virtual Kachel LiesKachel(int zelle) const = 0;
   virtual void SetzeKachel(int zelle, Kachel kachel) = 0;
-  /// Lets a clue place show a number from 0 to 10; 0 is the empty plate.
+  /// @param zahl   0 to 10; 0 is the empty place.
   virtual void SetzeZahl(int platz, int zahl) = 0;
   virtual bool IstZahlNull(int platz) const = 0;
   virtual void ZeigeZahlfeld(int platz, bool sichtbar) = 0;
 
   // Panel and texts.
-  /// @param ziffer   0 to 9, or `kLeereZiffer`.
+  /// @param stelle   0 is the units place, @param ziffer 0 to 9, or `kLeereZiffer`.
   virtual void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) = 0;
   virtual void SetzeModustext(const std::string &text) = 0;
   virtual void SetzeModusfarbe(Textfarbe farbe) = 0;
@@ -59,23 +63,25 @@ class Ansicht {
   // Phase of play.
   virtual bool IstSichtbar(Bedienung bedienung) const = 0;
   virtual void Zeige(Bedienung bedienung, bool sichtbar) = 0;
-  /// Enables or disables the menu entry that saves the game.
-  virtual void ErlaubeSpeichern(bool erlaubt) = 0;
   /// Hides the mode row for the rest of the run.
   virtual void VerbergeModuswahl() = 0;
-  /// Lets the timer of an arrow tick at an interval in milliseconds; 0 stops it.
-  virtual void StelleTimer(Pfeil pfeil, int millisekunden) = 0;
-  /// @param phase   0 yellow, 1 red, `kKeinPfeil` nothing.
+  /// Starts the timer of an arrow. The picture changes with the first tick.
+  /// @param takt   interval in milliseconds.
+  virtual void StartePfeil(Pfeil pfeil, int takt) = 0;
+  /// @param phase   0 yellow, 1 red, or `kKeinPfeil`.
   virtual void ZeigePfeil(Pfeil pfeil, int phase) = 0;
+  /// Stops the timer of an arrow and takes its picture away.
+  virtual void StoppePfeil(Pfeil pfeil) = 0;
 
   // Sounds and windows.
+  /// @param effekt   1 to 6, see meldungen.h.
   virtual void SpieleSound(int effekt) = 0;
-  /// Both play the sound of the message and return when its window has closed.
+  /// `Melde` and `Frage` play the sound of the message and return when its window has closed.
   virtual void Melde(const Meldung &meldung) = 0;
-  /// Leaves the answer in `spiel.Antwort`; true if it is yes.
+  /// Leaves the answer in `spiel.Antwort`. @return true if it is yes.
   virtual bool Frage(const Meldung &meldung) = 0;
   virtual void BestenlistePruefen() = 0;
-  /// Lets the player type a name into the row of the new entry; returns when the window has closed.
+  /// Lets the player type a name into the row of the new entry. Returns when the window has closed.
   virtual void ZeigeBesteneintrag() = 0;
   virtual void BeendeDasSpiel() = 0;
 };

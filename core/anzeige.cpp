@@ -10,18 +10,13 @@ constexpr int kPunktstellen = 5;
 constexpr int kLevelpunktstellen = 3;
 constexpr int kMaxPunkte = 99999;
 
-/// The two-digit rows that share `imgAuswertung`, told by their units place.
-constexpr int kStelleLevel = 0;
-constexpr int kStelleRest = 2;
-constexpr int kStelleFehler = 4;
-
 void LeereStellen(Ansicht &ansicht, Panelreihe reihe, int von, int bis,
                   Ziffernfarbe farbe = Ziffernfarbe::Gruen) {
   for (int stelle = von; stelle <= bis; ++stelle)
     ansicht.SetzeZiffer(reihe, stelle, farbe, kLeereZiffer);
 }
 
-/// Writes the digits of a number that is not negative, the units in place 0.
+/// @param wert   not negative.
 void ZeigeZiffern(Ansicht &ansicht, Panelreihe reihe, int wert, Ziffernfarbe farbe) {
   const std::string text = std::to_string(wert);
   int stelle = static_cast<int>(text.size());
@@ -29,12 +24,12 @@ void ZeigeZiffern(Ansicht &ansicht, Panelreihe reihe, int wert, Ziffernfarbe far
     ansicht.SetzeZiffer(reihe, --stelle, farbe, ziffer - '0');
 }
 
-/// Shows the first and the last digit of a number in a two-digit row of `imgAuswertung`.
-void ZeigePaar(Ansicht &ansicht, int einer, int wert, Ziffernfarbe farbe) {
+/// Shows the first and the last digit of a number in a row of two places.
+void ZeigePaar(Ansicht &ansicht, Panelreihe reihe, int wert, Ziffernfarbe farbe) {
   const std::string text = std::to_string(wert);
   const int zehner = wert > 9 ? text.front() - '0' : kLeereZiffer;
-  ansicht.SetzeZiffer(Panelreihe::imgAuswertung, einer + 1, farbe, zehner);
-  ansicht.SetzeZiffer(Panelreihe::imgAuswertung, einer, farbe, text.back() - '0');
+  ansicht.SetzeZiffer(reihe, 1, farbe, zehner);
+  ansicht.SetzeZiffer(reihe, 0, farbe, text.back() - '0');
 }
 
 }  // namespace
@@ -42,31 +37,30 @@ void ZeigePaar(Ansicht &ansicht, int einer, int wert, Ziffernfarbe farbe) {
 void ZeigeStatus(Ansicht &ansicht) {
   spiel.SarantenRest = ZaehleRest(ansicht);
   LeereLevelpunkte(ansicht);
-  ZeigePaar(ansicht, kStelleLevel, spiel.Level, Ziffernfarbe::Gruen);
-  ZeigePaar(ansicht, kStelleRest, spiel.SarantenRest, Ziffernfarbe::Gruen);
-  ZeigePaar(ansicht, kStelleFehler, spiel.Fehler, Ziffernfarbe::Rot);
-  LeereStellen(ansicht, Panelreihe::imgPunkte, 1, kPunktstellen - 1);
+  ZeigePaar(ansicht, Panelreihe::Level, spiel.Level, Ziffernfarbe::Gruen);
+  ZeigePaar(ansicht, Panelreihe::NochOffen, spiel.SarantenRest, Ziffernfarbe::Gruen);
+  ZeigePaar(ansicht, Panelreihe::Fehlversuche, spiel.Fehler, Ziffernfarbe::Rot);
+  LeereStellen(ansicht, Panelreihe::Punkte, 1, kPunktstellen - 1);
   if (spiel.Punkte >= 0 && spiel.Punkte <= kMaxPunkte)
-    ZeigeZiffern(ansicht, Panelreihe::imgPunkte, spiel.Punkte, Ziffernfarbe::Gruen);
+    ZeigeZiffern(ansicht, Panelreihe::Punkte, spiel.Punkte, Ziffernfarbe::Gruen);
 }
 
 void LeereLevelpunkte(Ansicht &ansicht) {
-  LeereStellen(ansicht, Panelreihe::imgLevel, 0, kLevelpunktstellen - 1);
+  LeereStellen(ansicht, Panelreihe::Levelpunkte, 0, kLevelpunktstellen - 1);
 }
 
 void ZeigeLevelpunkte(Ansicht &ansicht, int betrag, Ziffernfarbe farbe) {
-  ZeigeZiffern(ansicht, Panelreihe::imgLevel, betrag, farbe);
+  ZeigeZiffern(ansicht, Panelreihe::Levelpunkte, betrag, farbe);
 }
 
 void ZeigeLevelwertung(Ansicht &ansicht) {
-  LeereStellen(ansicht, Panelreihe::imgPunkte, 0, kPunktstellen - 1);
+  LeereStellen(ansicht, Panelreihe::Punkte, 0, kPunktstellen - 1);
   ZeigeLevelpunkte(ansicht, spiel.Levelpunkte, Ziffernfarbe::Gruen);
   if (spiel.Punkte > 0 && spiel.Punkte <= kMaxPunkte)
-    ZeigeZiffern(ansicht, Panelreihe::imgPunkte, spiel.Punkte, Ziffernfarbe::Gruen);
+    ZeigeZiffern(ansicht, Panelreihe::Punkte, spiel.Punkte, Ziffernfarbe::Gruen);
 }
 
 void LeerePanel(Ansicht &ansicht) {
-  LeereStellen(ansicht, Panelreihe::imgPunkte, 0, kPunktstellen - 1);
-  LeereStellen(ansicht, Panelreihe::imgAuswertung, kStelleFehler, kStelleFehler + 1,
-               Ziffernfarbe::Rot);
+  LeereStellen(ansicht, Panelreihe::Punkte, 0, kPunktstellen - 1);
+  LeereStellen(ansicht, Panelreihe::Fehlversuche, 0, 1, Ziffernfarbe::Rot);
 }

@@ -1,24 +1,22 @@
 /// @file
-/// The panel: which digit each of its places shows.
+/// The digits of the panel.
 #pragma once
 
 #include "core/ansicht.h"
 
-/// Brings the panel up to date and recounts `SarantenRest`. Afterwards the rows of points, errors,
-/// rest and level show the record's values and the row of the level points is blank. Points that
-/// the row cannot show (below 0 or above 99999) leave its units place as it was.
+/// Recounts `SarantenRest` and refreshes the panel. The row of the level points becomes blank.
+/// Points below 0 or above 99999 leave the units place of their row unchanged and the rest blank.
 void ZeigeStatus(Ansicht &ansicht);
 
 /// Blanks the row of the level points.
 void LeereLevelpunkte(Ansicht &ansicht);
 
-/// Shows the result of a level in its row, the units in place 0.
 /// @param betrag   0 to 999.
 void ZeigeLevelpunkte(Ansicht &ansicht, int betrag, Ziffernfarbe farbe);
 
-/// Shows the bonus of a won level beside the points without it, which stay blank if the row cannot
-/// show them or if they are 0.
+/// Shows the bonus of a won level, and the points without it; 0 and what the row cannot show are
+/// blank.
 void ZeigeLevelwertung(Ansicht &ansicht);
 
-/// Shows the dark panel that is seen before the first refresh.
+/// Blanks the points and the errors, as before the first refresh.
 void LeerePanel(Ansicht &ansicht);

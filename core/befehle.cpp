@@ -27,10 +27,9 @@ void WarteAufSpiel(Ansicht &ansicht) {
   spiel.AnzahlSaranten = 75;
   ZeigeStatus(ansicht);
   ansicht.ZeigePfeil(Pfeil::Start, spiel.StartBlinkphase);
-  ansicht.StelleTimer(Pfeil::Start, kBlinkenStart);
-  // The straight quote at the end belongs to the text.
-  ansicht.SetzeModustext("Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\"");
-  StoppePfeil(ansicht, Pfeil::Weiter);
+  ansicht.StartePfeil(Pfeil::Start, kBlinkenStart);
+  ansicht.SetzeModustext(kWaehleModus);
+  ansicht.StoppePfeil(Pfeil::Weiter);
 }
 
 void imgNeuesSpiel_Click(Ansicht &ansicht) {
@@ -44,9 +43,8 @@ void imgNeuesSpiel_Click(Ansicht &ansicht) {
 
 void imgNextLevel_Click(Ansicht &ansicht) {
   ansicht.Zeige(Bedienung::imgNextLevel, false);
-  ansicht.ErlaubeSpeichern(false);
   ansicht.Zeige(Bedienung::imgSpeichern, false);
-  StoppePfeil(ansicht, Pfeil::Weiter);
+  ansicht.StoppePfeil(Pfeil::Weiter);
   VerbucheLevelpunkte();
   spiel.WeiterBlinkphase = 0;
   LevelBeginnen(ansicht);
@@ -58,7 +56,7 @@ void cmdWiederholen_Click(Ansicht &ansicht) {
   VerbucheLevelpunkte();
   spiel.Fehler = 0;
   ansicht.Zeige(Bedienung::cmdWiederholen, false);
-  StoppePfeil(ansicht, Pfeil::Weiter);
+  ansicht.StoppePfeil(Pfeil::Weiter);
   BerechneZahlen(ansicht);
   ZeigeStatus(ansicht);
   for (int zelle = 1; zelle <= kZellen; ++zelle)

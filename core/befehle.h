@@ -1,10 +1,10 @@
 /// @file
-/// What the buttons of the main window do, told in terms of the game.
+/// The commands behind the buttons of the main window, and the ticks of its timers.
 #pragma once
 
 #include "core/ansicht.h"
 
-/// Puts the game into the state in which the main window first waits for a player.
+/// Shows the waiting state: no game has begun.
 void WarteAufSpiel(Ansicht &ansicht);
 
 // The handlers of the picture buttons that bear these names.
@@ -20,9 +20,9 @@ void NaechsterLevelBlinkt(Ansicht &ansicht);
 /// True if the points beat the lowest entry of the best list.
 bool NeueBestmarke();
 
-/// Points with which a game begins that starts behind the given number of skipped levels.
+/// Points at the start of a game. @param uebersprungen   levels that are not played.
 std::int32_t PunkteFuerStart(int uebersprungen, int modus);
 
-/// Begins a game at a later level, in a mode of its own.
+/// Begins a game with the level after the skipped ones.
 /// @param uebersprungen   levels that are not played, 0 to 25, @param modus 1 to 3.
 void SpielAbLevelBeginnen(Ansicht &ansicht, int uebersprungen, int modus);

@@ -10,7 +10,7 @@ bool BrettLiegt() {
 std::int16_t ZaehleRest(const Ansicht &ansicht) {
   int rest = 0;
   for (int zelle = 1; zelle <= kZellen; ++zelle) {
-    rest += spiel.Feld.at(static_cast<std::size_t>(zelle)).IstSarant ? 1 : 0;
+    rest += spiel.ZelleVon(zelle).IstSarant ? 1 : 0;
     rest -= ansicht.LiesKachel(zelle) == Kachel::Sarant ? 1 : 0;
   }
   return static_cast<std::int16_t>(rest);

@@ -1,12 +1,12 @@
 /// @file
-/// What lies on the board and what of it is open, counted from the board and its tiles.
+/// What is counted from the board and from the tiles that its cells show.
 #pragma once
 
 #include <cstdint>
 
 #include "core/ansicht.h"
 
-/// True once a level has been dealt; before that nothing on the playfield can be opened.
+/// True if the board holds a gem. Before the first level it does not, and no cell can be played.
 bool BrettLiegt();
 
 /// Gems of the board that are not opened yet.

@@ -17,7 +17,7 @@ struct Startstufe {
 };
 constexpr std::array<Startstufe, 6> kStartstufen{{
     {5, {8, 6, 0}},
-    {20, {8, 6, 0}},  // Experte rises from level to level here, see StartfelderFuer.
+    {20, {8, 6, 0}},  // For Experte see StartfelderFuer().
     {24, {14, 12, 12}},
     {29, {11, 9, 9}},
     {34, {9, 7, 7}},
@@ -41,14 +41,14 @@ std::int16_t ZufaelligeZelle(int von, int bis) {
   return static_cast<std::int16_t>(static_cast<int>(zufall.Zahl() * (bis - von + 1)) + von);
 }
 
-/// The draw behind both kinds of cells; they differ only in the flag that is tested and set.
+/// Draws a cell whose flag is not set, and sets it.
 std::int16_t ZieheZelle(std::int16_t von, std::int16_t bis, bool Zelle::*merkmal) {
   zufall.Saee();
   std::int16_t zelle = 0;
   do {
     zelle = ZufaelligeZelle(von, bis);
-  } while (spiel.Feld.at(static_cast<std::size_t>(zelle)).*merkmal);
-  spiel.Feld.at(static_cast<std::size_t>(zelle)).*merkmal = true;
+  } while (spiel.ZelleVon(zelle).*merkmal);
+  spiel.ZelleVon(zelle).*merkmal = true;
   return zelle;
 }
 
@@ -61,7 +61,7 @@ void FuelleBrett() {
   }
 }
 
-/// All levels are played: the closing messages, the best list, and the process ends.
+/// After level 40: the closing messages, the best list, and the end of the process.
 void SpielZuEnde(Ansicht &ansicht) {
   ansicht.Melde(MeldungSpielBeendet());
   ansicht.BestenlistePruefen();
@@ -95,7 +95,7 @@ void LevelBeginnen(Ansicht &ansicht) {
   ansicht.VerbergeModuswahl();
   spiel.Fehler = 0;
   for (int zelle = 1; zelle <= kZellen; ++zelle) {
-    spiel.Feld.at(static_cast<std::size_t>(zelle)).IstSarant = false;
+    spiel.ZelleVon(zelle).IstSarant = false;
     ansicht.SetzeKachel(zelle, Kachel::Verdeckt);
   }
   ++spiel.Level;
@@ -108,10 +108,10 @@ void LevelBeginnen(Ansicht &ansicht) {
   ansicht.SetzeModusfarbe(Textfarbe::Blau);
   FuelleBrett();
   LeereLevelpunkte(ansicht);
-  ansicht.ErlaubeSpeichern(false);
+  ansicht.Zeige(Bedienung::imgSpeichern, false);
   ExternerKlick(ansicht);
   MarkiereFreiesFeld(ansicht);
-  StoppePfeil(ansicht, Pfeil::Weiter);
+  ansicht.StoppePfeil(Pfeil::Weiter);
 }
 
 std::int16_t ZieheSarant(std::int16_t von, std::int16_t bis) {
@@ -129,7 +129,7 @@ void ExternerKlick(Ansicht &ansicht) {
     std::int16_t zelle = 0;
     do {
       zelle = ZieheStartfeld(1, kZellen);
-    } while (!spiel.Feld.at(static_cast<std::size_t>(zelle)).IstSarant);
+    } while (!spiel.ZelleVon(zelle).IstSarant);
     imgSar_MouseDown(ansicht, zelle, kLinkeTaste);
   }
   ZugAuswerten(ansicht);
@@ -156,12 +156,6 @@ void RaeumeLevelende(Ansicht &ansicht) {
   for (const Bedienung bedienung :
        {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern})
     ansicht.Zeige(bedienung, false);
-  ansicht.ErlaubeSpeichern(false);
-  StoppePfeil(ansicht, Pfeil::Start);
-  StoppePfeil(ansicht, Pfeil::Weiter);
-}
-
-void StoppePfeil(Ansicht &ansicht, Pfeil pfeil) {
-  ansicht.StelleTimer(pfeil, 0);
-  ansicht.ZeigePfeil(pfeil, kKeinPfeil);
+  ansicht.StoppePfeil(Pfeil::Start);
+  ansicht.StoppePfeil(Pfeil::Weiter);
 }

@@ -1,5 +1,5 @@
 /// @file
-/// How a level begins: its counters, its board, its start cells and free-cell marks.
+/// The start of a level: counters, board, start cells and free-cell marks.
 #pragma once
 
 #include <cstdint>
@@ -16,27 +16,23 @@ std::int16_t FreifelderFuer(int level);
 /// Begins a game at level 1.
 void SpielBeginnen(Ansicht &ansicht);
 
-/// Raises `Level` and sets up that level, or ends the game behind level 40. Writes no clue numbers:
-/// every caller runs `BerechneZahlen` afterwards.
+/// Raises `Level` and sets up that level, or ends the game after level 40. Writes no clue numbers:
+/// the caller must run `BerechneZahlen` afterwards.
 void LevelBeginnen(Ansicht &ansicht);
 
-/// Draws a cell from `von` to `bis` that holds no gem and puts one there.
+/// Draws a cell from `von` to `bis` that holds no gem, and puts a gem there.
 /// @pre There is such a cell.
 std::int16_t ZieheSarant(std::int16_t von, std::int16_t bis);
 
-/// Draws a cell from `von` to `bis` that has not come up since all `Gezogen` were cleared.
+/// Draws a cell from `von` to `bis` whose `Gezogen` is not set, and sets it.
 /// @pre There is such a cell.
 std::int16_t ZieheStartfeld(std::int16_t von, std::int16_t bis);
 
-/// Opens `Startfelder` random gems by simulated clicks.
+/// Opens `Startfelder` random gems by simulated left clicks.
 void ExternerKlick(Ansicht &ansicht);
 
 /// Marks random free cells, as many as the level grants.
 void MarkiereFreiesFeld(Ansicht &ansicht);
 
-/// Takes away everything that tells of a won or lost level or of a game not begun, so that the
-/// level that begins next stands in a clean playing phase.
+/// Resets errors and level points, hides the buttons of a won or lost level and stops both arrows.
 void RaeumeLevelende(Ansicht &ansicht);
-
-/// Stops the timer of an arrow and lets the arrow vanish.
-void StoppePfeil(Ansicht &ansicht, Pfeil pfeil);

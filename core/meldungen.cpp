@@ -7,6 +7,15 @@ const std::string &Versionstext() {
   return text;
 }
 
+const char *const kWaehleModus =
+    "Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\"";  // The quote belongs to it.
+const char *const kKlickNaechsterLevel = "Klicken Sie auf »Nächster Level«";
+const char *const kKlickWiederholen = "Klicken Sie auf »Wiederholen«";
+
+std::string GewaehlterModus(int modus) {
+  return "Spielmodus  :  " + ModusName(modus);
+}
+
 std::string Moduszeile(int leerzeichen) {
   return "Spielmodus:" + std::string(static_cast<std::size_t>(leerzeichen), ' ') +
          ModusName(spiel.Spielmodus) + "\r\nEs sind " + std::to_string(spiel.AnzahlSaranten) +
@@ -14,7 +23,7 @@ std::string Moduszeile(int leerzeichen) {
 }
 
 Meldung FrageNeuesSpiel() {
-  return {kKlangBlip,
+  return {kSoundBlip,
           "Es läuft bereits ein aktuelles Spiel.\r\n"
           "Sind Sie sicher,\r\n"
           "dass Sie ein neues Spiel beginnen möchten?",
@@ -22,7 +31,7 @@ Meldung FrageNeuesSpiel() {
 }
 
 Meldung FrageEinstellungen() {
-  return {kKlangFrage,
+  return {kSoundFrage,
           "Es läuft ein aktuelles Spiel mit " + std::to_string(spiel.Punkte) +
               "« Punkten.\r\n"
               "Wenn Sie die Einstellungen ändern,\r\n"
@@ -31,7 +40,7 @@ Meldung FrageEinstellungen() {
 }
 
 Meldung FrageBeenden() {
-  return {kKlangBlip,
+  return {kSoundBlip,
           "Es läuft bereits ein aktuelles Spiel.\r\n"
           "Sind Sie sicher,\r\n"
           "dass Sie das Spiel beenden möchten?",
@@ -39,35 +48,35 @@ Meldung FrageBeenden() {
 }
 
 Meldung FrageSucheSpielstand() {
-  return {kKlangFrage,
+  return {kSoundFrage,
           "Im Ordner " + spiel.Datenordner +
               "\r\nbefindet sich keine Datei mit gespeichtem Spielstand!",
           "\r\nMöchten Sie selbst nach einer Datei suchen?", Lage::LinksOben};
 }
 
 Meldung FrageLaden(int level, int modus, const std::string &punkte) {
-  return {kKlangFehler,
+  return {kSoundFehler,
           "Spielstart in Level:   " + std::to_string(level) +
               "\r\nSpielmodus:  " + ModusName(modus) + "\r\nPunkte:  " + punkte,
           "\r\n»Spiel starten« bestätigen"};
 }
 
 Meldung FrageBesteneintrag() {
-  return {kKlangStart,
+  return {kSoundStart,
           "Sehr gut!!\r\n"
           "Sie haben eine neue Bestmarke erreicht.",
           "Möchten Sie sich in die Liste der »Besten Spieler« eintragen?"};
 }
 
 Meldung FrageEintraegeLoeschen() {
-  return {kKlangFrage,
+  return {kSoundFrage,
           "\r\nSind Sie sicher,\r\n"
           "dass Sie alle Einträge löschen möchten?",
           "\r\n»Einträge löschen« bestätigen"};
 }
 
 Meldung FrageAuswahl(int level, int modus) {
-  return {kKlangFrage,
+  return {kSoundFrage,
           "Sie haben folgende Einstellung gewählt\r\n"
           "Spielstart in Level:  " +
               std::to_string(level) + "\r\nSpielmodus:  " + ModusName(modus),
@@ -75,7 +84,7 @@ Meldung FrageAuswahl(int level, int modus) {
 }
 
 Meldung MeldungSpielBeendet() {
-  return {kKlangTada,
+  return {kSoundTada,
           "Das Spiel ist beendet!\r\n"
           "Sie haben alle Level erfolgreich gespielt.",
           "Es wird geprüft,\r\n"
@@ -84,7 +93,7 @@ Meldung MeldungSpielBeendet() {
 }
 
 Meldung MeldungVielenDank() {
-  return {kKeinKlang,
+  return {kKeinSound,
           "\r\nVielen Dank!\r\n"
           "Sie haben Glanzgrube erfolgreich beendet.",
           "\r\nBesuchen Sie auch meine Homepage.\r\n"
@@ -93,7 +102,7 @@ Meldung MeldungVielenDank() {
 }
 
 Meldung MeldungInfo() {
-  return {kKlangBlip,
+  return {kSoundBlip,
           "Spielidee und Programmierung:\r\n"
           "Spielewerkstatt Silbergrund\r\n"
           "www.silbergrund.example",
@@ -103,63 +112,63 @@ Meldung MeldungInfo() {
 }
 
 Meldung MeldungKeineFestplatte() {
-  return {kKlangFehler, "\r\nDie Festplatte auf Ihrem System wurde nicht erkannt!",
+  return {kSoundFehler, "\r\nDie Festplatte auf Ihrem System wurde nicht erkannt!",
           "\r\nEin Speichern von Daten ist leider nicht möglich"};
 }
 
 Meldung MeldungOrdnerFehlgeschlagen() {
-  return {kKlangFehler, "\r\nDas Anlegen des Ordners für die Daten ist fehlgeschlagen!",
+  return {kSoundFehler, "\r\nDas Anlegen des Ordners für die Daten ist fehlgeschlagen!",
           "\r\nDie Daten für die Stastitik\r\n"
           "können nicht gespeichert werden!"};
 }
 
 Meldung MeldungFalscherDateityp(const std::string &dateititel) {
-  return {kKlangFehler, "Die gewählte Datei\r\n" + dateititel + "\r\nist keine Spieledatei!",
+  return {kSoundFehler, "Die gewählte Datei\r\n" + dateititel + "\r\nist keine Spieledatei!",
           "\r\nFalscher Dateitype"};
 }
 
 Meldung MeldungKeinDateiname() {
-  return {kKlangFehler, "\r\nSie haben keinen gültigen Dateinamen eingeben.",
+  return {kSoundFehler, "\r\nSie haben keinen gültigen Dateinamen eingeben.",
           "\r\nKein gültiger Dateiname"};
 }
 
 Meldung MeldungLesefehler(int fehlernummer) {
-  return {kKlangFehler,
+  return {kSoundFehler,
           "Fehler beim Lesen der Datei.\r\n"
           "Spielstand konnten nicht geladen werden.",
           "\r\nFehlernummer: " + std::to_string(fehlernummer)};
 }
 
 Meldung MeldungSchreibfehler(int fehlernummer) {
-  return {kKlangFehler,
+  return {kSoundFehler,
           "Fehler beim Speichen der Daten\r\n"
           "Der Spielstand wurde nicht gespeichert!",
           "\r\nFehlernummer: " + std::to_string(fehlernummer)};
 }
 
 Meldung MeldungKeinBesteneintrag() {
-  return {kKlangBlip,
+  return {kSoundBlip,
           "Ein Eintrag in die Liste der »Besten Spieler«\r\n"
           "ist leider nicht möglich!",
           "Mehr Erfolg beim nächsten »Spiel«."};
 }
 
 Meldung MeldungBesteNichtGelesen(int fehlernummer) {
-  return {kKlangFehler,
+  return {kSoundFehler,
           "Die Daten für »Beste Spieler«\r\n"
           "konnten nicht gelesen werden!",
           "Fehlernummer: " + std::to_string(fehlernummer)};
 }
 
 Meldung MeldungBesteNichtGespeichert() {
-  return {kKlangFrage,
+  return {kSoundFrage,
           "Die Werte für »Beste Spieler«\r\n"
           "konnten nicht gespeichert werden.",
           "\r\nFehler beim Speichern"};
 }
 
 Meldung MeldungKeineSoundkarte() {
-  return {kKlangFrage,
+  return {kSoundFrage,
           "\r\nEs wurde keine Soundkarte,\r\n"
           "auf Ihren System erkannt",
           "\r\n»Soundeffekt an« ist nicht möglich!"};

@@ -1,17 +1,17 @@
 /// @file
-/// Every message of the game: its sound, its two texts and where its window stands.
+/// All messages of the game, with their sounds and window positions, and the texts of `lblModus`.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
-/// Sound effects by number.
-inline constexpr int kKeinKlang = 0;
-inline constexpr int kKlangFrage = 2;
-inline constexpr int kKlangFehler = 3;
-inline constexpr int kKlangBlip = 4;
-inline constexpr int kKlangStart = 5;
-inline constexpr int kKlangTada = 6;
+/// Sound effects by number. Nothing plays number 1.
+inline constexpr int kKeinSound = 0;
+inline constexpr int kSoundFrage = 2;
+inline constexpr int kSoundFehler = 3;
+inline constexpr int kSoundBlip = 4;
+inline constexpr int kSoundStart = 5;
+inline constexpr int kSoundTada = 6;
 
 /// Where a message window stands.
 enum class Lage {
@@ -20,9 +20,9 @@ enum class Lage {
   LinksOben,    ///< 100 twips left of and above it.
 };
 
-/// One message. Line breaks are CR LF; those at the start of a text move its first line down.
+/// One message. Line breaks are CR LF. One at the start of a text moves its first line down.
 struct Meldung {
-  int Klang;
+  int sound;
   std::string lblMeldung;
   std::string lblTitel;
   Lage lage = Lage::Mitte;
@@ -31,7 +31,7 @@ struct Meldung {
 /// The name of the game with its version, as the title bars show it.
 const std::string &Versionstext();
 
-// Questions, answered in `spiel.Antwort`.
+// Questions. The answer is left in `spiel.Antwort`.
 Meldung FrageNeuesSpiel();
 Meldung FrageEinstellungen();
 Meldung FrageBeenden();
@@ -58,5 +58,10 @@ Meldung MeldungBesteNichtGelesen(int fehlernummer);
 Meldung MeldungBesteNichtGespeichert();
 Meldung MeldungKeineSoundkarte();
 
-/// The line of a running game. @param leerzeichen the blanks behind the colon, two or three.
+// Texts of `lblModus`.
+/// The text of a running game. @param leerzeichen   blanks behind the colon, two or three.
 std::string Moduszeile(int leerzeichen);
+std::string GewaehlterModus(int modus);
+extern const char *const kWaehleModus;
+extern const char *const kKlickNaechsterLevel;
+extern const char *const kKlickWiederholen;

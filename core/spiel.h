@@ -1,5 +1,5 @@
 /// @file
-/// The record: everything that a running game remembers, apart from the tiles that the cells show.
+/// The game record: everything that a running game remembers, except the tiles that the cells show.
 #pragma once
 
 #include <array>
@@ -22,27 +22,25 @@ inline constexpr int kBeste = 5;  ///< Entries of the best list, numbered from 0
 /// The tile that a cell shows. It is the only record of what has happened to the cell.
 enum class Kachel { Verdeckt, Markiert, Fehler, Sarant };
 
-/// What is known of one cell of the board.
+/// One cell of the board.
 struct Zelle {
   bool IstSarant = false;  ///< The cell holds a gem. Changes only when a level begins.
-  bool Gezogen = false;  ///< Has come up in the present draw of start cells; else without meaning.
+  bool Gezogen = false;    ///< Was drawn in this `ExternerKlick`. Meaningless outside of it.
 };
 
-/// The best list in memory: names and points as decimal text, taken from the file as they stand
-/// there. After a failed load they hold the lines read before the failure, so they may be shorter
-/// than five.
+/// The best list in memory: names and points as decimal text, exactly as the file holds them. After
+/// a failed load they hold the lines read before the failure, so they may be shorter than five.
 struct Bestenliste {
   std::vector<std::string> lstName;    ///< UTF-8.
   std::vector<std::string> lstPunkte;  ///< UTF-8: a damaged file may hold anything.
-  std::int16_t BestenPlatz = -1;       ///< Entry that the player would take; -1: none.
+  std::int16_t BestenPlatz = -1;       ///< Index of the entry that the player would take; -1: none.
   bool BestenEintrag = false;          ///< The player has accepted an entry that is not named yet.
 };
 
-/// The record of the game. A fresh `Spiel` is the state at the start of the process: `spiel = {}`
-/// forgets everything that was played, read or chosen.
+/// The game record. A fresh `Spiel` is the state at the start of the process.
 struct Spiel {
   std::int16_t Level = 0;            ///< Running level, 1 to 40; 0 before the first.
-  std::int32_t Punkte = 0;           ///< Total points. A game runs exactly while this is not 0.
+  std::int32_t Punkte = 0;           ///< Total points. Not 0 counts as a running game.
   std::int32_t Levelpunkte = 0;      ///< Result of the level, not yet part of `Punkte`.
   std::int16_t Fehler = 0;           ///< Cells that show `Kachel::Fehler`; recounted at each move.
   std::int16_t SarantenRest = 0;     ///< Gems not yet opened; 0 means that the level is won.
@@ -50,13 +48,13 @@ struct Spiel {
   std::int16_t Startfelder = 0;      ///< Gems that are opened for the player when a level begins.
   std::int16_t Spielmodus = kModusNormal;
 
-  std::array<Zelle, kZellen + 1> Feld{};  ///< The board; index 0 is unused.
-  std::array<std::int16_t, kZellen + 1>
-      SarantenListe{};                      ///< Gem cells as drawn; index 0 is unused.
-  std::vector<std::string> lstWiederHolen;  ///< The same cells as decimal text, from 0.
+  std::array<Zelle, kZellen + 1> Feld{};  ///< The board. Index 0 is unused; see ZelleVon().
+  /// Gem cells in the order of their draw, from index 1. Written, but never read.
+  std::array<std::int16_t, kZellen + 1> SarantenListe{};
+  std::vector<std::string> lstWiederHolen;  ///< The same cells as decimal text, from index 0.
 
   std::array<std::string, kModi> ModusNamen{"Einfach", "Normal", "Experte"};
-  std::int16_t Antwort = 0;       ///< Answer to the last question, see `Antwort`.
+  std::int16_t Antwort = 0;       ///< Answer to the last question: `kJa`, `kNein`, `kAbgebrochen`.
   bool SoundAn = true;            ///< The player's switch for sound effects; not stored.
   bool DatenordnerAktiv = false;  ///< False: data lie in the program's own folder.
   std::string Datenordner;        ///< Folder of the data, UTF-8, without a closing separator.
@@ -64,6 +62,9 @@ struct Spiel {
   std::int32_t Bestenschwelle = 0;    ///< Points of the lowest entry of the best list.
   std::int16_t WeiterBlinkphase = 0;  ///< Phase 0 or 1 of the arrow `imgWeiter`.
   std::int16_t StartBlinkphase = 0;   ///< Phase 0 or 1 of the arrow `imgZeigeStart`.
+
+  /// @param nummer   1 to 100.
+  Zelle &ZelleVon(int nummer) { return Feld.at(static_cast<std::size_t>(nummer)); }
 };
 
 /// The one instance, which every module reads and writes.
@@ -74,10 +75,10 @@ inline constexpr std::int16_t kJa = 1;
 inline constexpr std::int16_t kNein = 2;
 inline constexpr std::int16_t kAbgebrochen = 3;
 
-/// `Punkte` + `Levelpunkte`; a sum beyond 32 bits stays at the end of the range.
+/// `Punkte` + `Levelpunkte`, limited to the range of 32 bits.
 std::int32_t SummePunkte();
 
-/// The name of a mode, which must be 1 to 3.
+/// The name of a mode. @param modus   1 to 3.
 inline const std::string &ModusName(int modus) {
   return spiel.ModusNamen.at(static_cast<std::size_t>(modus - 1));
 }

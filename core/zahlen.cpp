@@ -4,7 +4,7 @@
 
 namespace {
 
-/// A line as it is walked: from its end towards its beginning.
+/// A row or a column, from its right or lower end.
 struct Linie {
   int ersteZelle;
   int schritt;
@@ -22,8 +22,7 @@ void ZaehleLinie(Ansicht &ansicht, const Linie &linie) {
   int platz = linie.ersterPlatz;
   int lauf = 0;
   for (int k = 0; k < kLinie; ++k) {
-    const int zelle = linie.ersteZelle + k * linie.schritt;
-    if (spiel.Feld.at(static_cast<std::size_t>(zelle)).IstSarant) {
+    if (spiel.ZelleVon(linie.ersteZelle + k * linie.schritt).IstSarant) {
       ++lauf;
     } else if (lauf != 0) {
       ansicht.SetzeZahl(platz++, lauf);

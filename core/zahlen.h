@@ -4,6 +4,6 @@
 
 #include "core/ansicht.h"
 
-/// Writes the clue numbers of all 20 lines and refreshes the panel. The first place of a line holds
-/// the run nearest to the line's lower or right end; places without a run are hidden.
+/// Shows the clue numbers of all 20 lines and refreshes the panel. The first place of a line shows
+/// the run nearest to its lower or right end. Places without a run are hidden.
 void BerechneZahlen(Ansicht &ansicht);

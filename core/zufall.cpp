@@ -4,7 +4,7 @@
 #include <chrono>
 
 std::uint64_t LiesUhr() {
-  // The calendar clock alone is coarse on some systems; the steady clock counts in between.
+  // The calendar clock is coarse on some systems. The steady clock differs between two draws.
   const auto kalender = std::chrono::system_clock::now().time_since_epoch().count();
   const auto stetig = std::chrono::steady_clock::now().time_since_epoch().count();
   return static_cast<std::uint64_t>(kalender) ^ std::rotl(static_cast<std::uint64_t>(stetig), 32);
@@ -15,6 +15,6 @@ void Zufall::Saee() {
 }
 
 double Zufall::Zahl() {
-  // 53 bits fill the mantissa of a double exactly, so the result never rounds up to 1.
+  // 53 bits are the mantissa of a double: the result is exact and never rounded up to 1.
   return static_cast<double>(generator_() >> 11) * 0x1p-53;
 }

@@ -1,22 +1,22 @@
 /// @file
-/// The one source of chance, behind a seam so that a test can have a board again.
+/// The random generator.
 #pragma once
 
 #include <cstdint>
 #include <functional>
 #include <random>
 
-/// Reads the clocks of the machine; two calls differ as soon as the finest of them has ticked.
+/// A seed from the calendar clock and the steady clock of the machine.
 std::uint64_t LiesUhr();
 
-/// A random generator that is seeded from a clock.
+/// A random generator that is seeded from a clock. A test replaces the clock by a counter, so that
+/// the same boards are dealt again.
 class Zufall {
  public:
-  std::function<std::uint64_t()> Uhr = LiesUhr;  ///< Gives the seed; a test puts a counter here.
+  std::function<std::uint64_t()> Uhr = LiesUhr;  ///< Returns the seed.
 
-  /// Seeds the generator from the clock.
   void Saee();
-  /// A number that is uniform in the half-open range 0 to 1.
+  /// A random number, uniform in 0 <= r < 1.
   double Zahl();
 
  private:

@@ -15,22 +15,21 @@ constexpr int kBlinkenVerloren = 400;  // milliseconds
 void LevelGewonnen(Ansicht &ansicht) {
   LevelwertungZeigen(ansicht);
   ansicht.Zeige(Bedienung::imgNextLevel, true);
-  ansicht.ErlaubeSpeichern(true);
   ansicht.Zeige(Bedienung::imgSpeichern, true);
-  ansicht.SpieleSound(kKlangTada);
-  ansicht.StelleTimer(Pfeil::Weiter, kBlinkenGewonnen);
+  ansicht.SpieleSound(kSoundTada);
+  ansicht.StartePfeil(Pfeil::Weiter, kBlinkenGewonnen);
   ansicht.Zeige(Bedienung::imgWeiter, true);
-  ansicht.SetzeModustext("Klicken Sie auf »Nächster Level«");
+  ansicht.SetzeModustext(kKlickNaechsterLevel);
 }
 
 void LevelVerloren(Ansicht &ansicht) {
   ansicht.Zeige(Bedienung::cmdWiederholen, true);
-  ansicht.StelleTimer(Pfeil::Weiter, kBlinkenVerloren);
-  ansicht.SetzeModustext("Klicken Sie auf »Wiederholen«");
-  ansicht.SpieleSound(kKlangFehler);
+  ansicht.StartePfeil(Pfeil::Weiter, kBlinkenVerloren);
+  ansicht.SetzeModustext(kKlickWiederholen);
+  ansicht.SpieleSound(kSoundFehler);
   spiel.Levelpunkte = -kAbzug;
   ZeigeStatus(ansicht);
-  ZeigeLevelpunkte(ansicht, kAbzug, Ziffernfarbe::Rot);  // The refresh has blanked this row.
+  ZeigeLevelpunkte(ansicht, kAbzug, Ziffernfarbe::Rot);  // After ZeigeStatus(), which blanks it.
 }
 
 }  // namespace
@@ -44,9 +43,9 @@ void imgSar_MouseDown(Ansicht &ansicht, int Index, int Button) {
     return;
   ansicht.SetzeModustext(Moduszeile(3));
   if (Button == kLinkeTaste) {
-    const bool istSarant = spiel.Feld.at(static_cast<std::size_t>(Index)).IstSarant;
+    const bool istSarant = spiel.ZelleVon(Index).IstSarant;
     ansicht.SetzeKachel(Index, istSarant ? Kachel::Sarant : Kachel::Fehler);
-    ansicht.SpieleSound(istSarant ? kKlangBlip : kKlangFehler);
+    ansicht.SpieleSound(istSarant ? kSoundBlip : kSoundFehler);
   } else if (kachel == Kachel::Sarant || kachel == Kachel::Fehler) {
     return;
   } else {

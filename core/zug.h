@@ -1,5 +1,5 @@
 /// @file
-/// A move: what a press on a cell does, and what the board is worth afterwards.
+/// A press on a cell and its evaluation.
 #pragma once
 
 #include "core/ansicht.h"
@@ -7,13 +7,14 @@
 inline constexpr int kLinkeTaste = 1;
 inline constexpr int kRechteTaste = 2;  ///< Any button but the left one acts like this.
 
-/// The press of a mouse button on a cell. Does nothing while no board lies on the playfield, and
-/// nothing in a level that is won or lost.
+/// Handles the press of a mouse button on a cell. Does nothing before the first level, nor in a
+/// level that is won or lost.
+/// @param Index   1 to 100.
 void imgSar_MouseDown(Ansicht &ansicht, int Index, int Button);
 
-/// Recounts the wrong cells from the tiles. The second one loses the level and ends the count;
-/// otherwise the panel is brought up to date.
+/// Recounts the wrong cells from the tiles. The second one ends the count and loses the level.
+/// Otherwise the panel is refreshed.
 void ZugAuswerten(Ansicht &ansicht);
 
-/// Sets the bonus of a won level by the mode and shows it.
+/// Sets `Levelpunkte` to the bonus of the mode, and shows it.
 void LevelwertungZeigen(Ansicht &ansicht);

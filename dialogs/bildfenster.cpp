@@ -7,6 +7,7 @@
 #include "controls/bild.h"
 #include "controls/bilder.h"
 #include "controls/schirmwechsel.h"
+#include "controls/tastatur.h"
 #include "platform/fenstersystem.h"
 
 namespace {
@@ -43,13 +44,9 @@ void Bildfenster::Platziere(const QWidget *hauptfenster, Lage lage) {
 }
 
 void Bildfenster::showEvent(QShowEvent *ereignis) {
-  // Tab leads to the buttons while assistive technology can tell which has the focus.
-  for (Bild *bild : findChildren<Bild *>()) {
-    if (bild->IstBedienbar())
-      bild->setFocusPolicy(QAccessible::isActive() ? Qt::TabFocus : Qt::NoFocus);
-  }
+  ErlaubeTab(this);
   if (!ereignis->spontaneous())
-    setFocus();  // Qt would give it to the first button.
+    setFocus();  // Otherwise Qt gives the focus to the first button.
   QDialog::showEvent(ereignis);
 }
 
@@ -60,6 +57,6 @@ void Bildfenster::paintEvent(QPaintEvent *ereignis) {
 }
 
 void Bildfenster::keyPressEvent(QKeyEvent *ereignis) {
-  // QDialog is not asked: it would press a default button at Enter and close at Esc.
+  // QDialog would press a default button at Enter and close at Esc.
   ereignis->ignore();
 }

@@ -4,8 +4,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
-#include <QMenu>
-#include <QMenuBar>
 #include <QScreen>
 #include <functional>
 #include <optional>
@@ -14,9 +12,9 @@
 #include "controls/bild.h"
 #include "controls/bilder.h"
 #include "controls/schirmwechsel.h"
+#include "controls/zifferreihe.h"
 #include "core/befehle.h"
 #include "core/level.h"
-#include "core/zug.h"
 #include "dialogs/frmBeste.h"
 #include "dialogs/frmMsg.h"
 #include "dialogs/frmOptionen.h"
@@ -27,14 +25,13 @@
 #include "platform/modOpenSave.h"
 #include "platform/modShellExecute.h"
 #include "platform/mod_MySound.h"
-#include "platform/tongeraet.h"
+#include "shell/menue.h"
 #include "shell/spielbrett.h"
 
 namespace {
 
-constexpr Twips kFenster{0, 0, 13170, 10935};
-const Bildeintrag kFlaeche{"frmSpielfeld",       kFenster, "spielfeld", "", "Spiel",
-                           QAccessible::Grouping};
+const Bildeintrag kFlaeche{"frmSpielfeld", kClientflaeche,       "spielfeld", "",
+                           "Spiel",        QAccessible::Grouping};
 
 const Texteintrag kLblModus{"lblModus", {4260, 9960, 6615, 855}, 11.25, true, kDunkelblau};
 
@@ -56,8 +53,7 @@ const std::pair<Pfeil, Bildeintrag> kPfeile[] = {
 
 }  // namespace
 
-/// A picture button: what it looks like, what a click does, and its name for the rules if they show
-/// and hide it.
+/// A picture button: its look, its handler, and its name in `Ansicht` if it comes and goes.
 struct frmSpielfeld::Knopfeintrag {
   Bildeintrag bild;
   std::function<void(frmSpielfeld &)> klick;
@@ -99,23 +95,20 @@ frmSpielfeld::frmSpielfeld() {
   setWindowTitle(QString::fromStdString(Versionstext()));
   setWindowFlag(Qt::MSWindowsFixedSizeDialogHint);
   auto *flaeche = new Bild(this, kFlaeche);
-  flaeche->setFixedSize(Rechteck(kFenster).size());
+  flaeche->setFixedSize(Rechteck(kClientflaeche).size());
   setCentralWidget(flaeche);
-  Picture1_ = new Spielbrett(flaeche, [this](int zelle, Qt::MouseButton taste) {
-    imgSar_MouseDown(*this, zelle, taste == Qt::LeftButton ? kLinkeTaste : kRechteTaste);
-  });
+  Picture1_ = new Spielbrett(flaeche, *this);
   lblModus_ = new Beschriftung(flaeche, kLblModus);
   KnoepfeAufbauen(flaeche);
   PfeileAufbauen(flaeche);
   panel_ = std::make_unique<Panel>(flaeche);
-  MenueAufbauen();
+  BaueMenue(*this);
   tastatur_ = std::make_unique<Tastatur>(
       flaeche, Picture1_->Zellen(),
       [this](bool spalte, int linie) { return Picture1_->Linientext(spalte, linie); });
   for (const Bedienung bedienung : {Bedienung::imgNextLevel, Bedienung::cmdWiederholen,
                                     Bedienung::imgSpeichern, Bedienung::imgBester})
     Zeige(bedienung, false);
-  ErlaubeSpeichern(false);
 
   layout()->setSizeConstraint(QLayout::SetFixedSize);
   adjustSize();
@@ -148,59 +141,8 @@ void frmSpielfeld::PfeileAufbauen(QWidget *flaeche) {
   connect(&timer_[Pfeil::Weiter], &QTimer::timeout, this, [this] { NaechsterLevelBlinkt(*this); });
 }
 
-void frmSpielfeld::MenueAufbauen() {
-  using F = frmSpielfeld;
-  auto *eintraege = new QActionGroup(this);
-  eintraege->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
-  const auto Eintrag = [&](QMenu *menue, const char *text, auto tat,
-                           const QKeySequence &tasten = {}) {
-    return eintraege->addAction(
-        menue->addAction(text, tasten, this, [this, tat] { std::invoke(tat, *this); }));
-  };
-  // The blanks behind the first two captions keep the heads of the menus apart.
-  QMenu *mnuMenue1 = menuBar()->addMenu("&Spiel                     ");
-  Eintrag(mnuMenue1, "Neues Spiel", imgNeuesSpiel_Click, Qt::CTRL | Qt::Key_N);
-  mnuLaden_ = Eintrag(mnuMenue1, "Spielstand laden...", &F::imgOeffnen_Click, Qt::CTRL | Qt::Key_O);
-  mnuSpeichern_ = Eintrag(mnuMenue1, "Spielstand speichern unter...", &F::imgSpeichern_Click,
-                          Qt::CTRL | Qt::Key_S);
-  mnuMenue1->addSeparator();
-  Eintrag(mnuMenue1, "b&eenden", imgEnde_Click);
-
-  QMenu *mnuMenue2 = menuBar()->addMenu("&Optionen             ");
-  SoundmenueAufbauen(mnuMenue2->addMenu("Sound"));
-  mnuMenue2->addSeparator();
-  Eintrag(mnuMenue2, "Einstellungen...", &F::imgEinstellungen_Click);
-
-  QMenu *mnuMenue3 = menuBar()->addMenu("&Information");
-  Eintrag(mnuMenue3, "&Spielanleitung", &F::lblAnleitung_Click, Qt::Key_F1);
-  Eintrag(mnuMenue3, "&zu dieser Anwendung...", &F::lblInfo_Click);
-  mnuMenue3->addSeparator();
-  Eintrag(mnuMenue3, "&Beste Spieler...", &F::mnuBeste_Click);
-}
-
-void frmSpielfeld::SoundmenueAufbauen(QMenu *menue) {
-  auto *mnusoundan = new QActionGroup(this);
-  QAction *an = mnusoundan->addAction(menue->addAction("an"));
-  QAction *aus = mnusoundan->addAction(menue->addAction("aus"));
-  for (QAction *aktion : {an, aus})
-    aktion->setCheckable(true);
-  an->setChecked(true);
-  connect(mnusoundan, &QActionGroup::triggered, this,
-          [an](const QAction *aktion) { spiel.SoundAn = aktion == an; });
-
-  const auto Frage = [mnuSound = menue->menuAction()] { mnuSound->setEnabled(SoundGeraetDa()); };
-  connect(&DerTonmelder(), &Tonmelder::Gewechselt, menue, Frage);
-  connect(static_cast<QMenu *>(menue->parentWidget()), &QMenu::aboutToShow, menue, Frage);
-  Frage();
-}
-
 void frmSpielfeld::ZeigeModuswahl() {
   imgModus_->Waehle(spiel.Spielmodus);
-}
-
-void frmSpielfeld::ErlaubeLaden(bool erlaubt) {
-  Zeige(Bedienung::imgOeffnen, erlaubt);
-  mnuLaden_->setEnabled(erlaubt);
 }
 
 frmBeste &frmSpielfeld::Bestenfenster() {
@@ -212,27 +154,27 @@ frmBeste &frmSpielfeld::Bestenfenster() {
 }
 
 Kachel frmSpielfeld::LiesKachel(int zelle) const {
-  return Picture1_->LiesKachel(zelle);
+  return Picture1_->Zelle(zelle).LiesKachel();
 }
 
 void frmSpielfeld::SetzeKachel(int zelle, Kachel kachel) {
-  Picture1_->SetzeKachel(zelle, kachel);
+  Picture1_->Zelle(zelle).SetzeKachel(kachel);
 }
 
 void frmSpielfeld::SetzeZahl(int platz, int zahl) {
-  Picture1_->SetzeZahl(platz, zahl);
+  Picture1_->Platz(platz).SetzeZahl(zahl);
 }
 
 bool frmSpielfeld::IstZahlNull(int platz) const {
-  return Picture1_->LiesZahl(platz) == 0;
+  return Picture1_->Platz(platz).LiesZahl() == 0;
 }
 
 void frmSpielfeld::ZeigeZahlfeld(int platz, bool sichtbar) {
-  Picture1_->ZeigeZahlfeld(platz, sichtbar);
+  Picture1_->Platz(platz).setVisible(sichtbar);
 }
 
 void frmSpielfeld::SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) {
-  panel_->SetzeZiffer(reihe, stelle, farbe, ziffer);
+  panel_->Reihe(reihe).SetzeZiffer(stelle, farbe, ziffer);
 }
 
 void frmSpielfeld::SetzeModustext(const std::string &text) {
@@ -249,28 +191,28 @@ bool frmSpielfeld::IstSichtbar(Bedienung bedienung) const {
 
 void frmSpielfeld::Zeige(Bedienung bedienung, bool sichtbar) {
   bedienungen_.at(bedienung)->setVisible(sichtbar);
-}
-
-void frmSpielfeld::ErlaubeSpeichern(bool erlaubt) {
-  mnuSpeichern_->setEnabled(erlaubt);
+  if (bedienung == Bedienung::imgOeffnen)
+    findChild<QAction *>("mnuSpiel2")->setEnabled(sichtbar);
+  if (bedienung == Bedienung::imgSpeichern)
+    findChild<QAction *>("mnuSpiel3")->setEnabled(sichtbar);
 }
 
 void frmSpielfeld::VerbergeModuswahl() {
   imgModus_->Verberge();
 }
 
-void frmSpielfeld::StelleTimer(Pfeil pfeil, int millisekunden) {
-  QTimer &timer = timer_.at(pfeil);
-  timer.setInterval(millisekunden);
-  if (millisekunden == 0)
-    timer.stop();
-  else
-    timer.start();
+void frmSpielfeld::StartePfeil(Pfeil pfeil, int takt) {
+  timer_.at(pfeil).start(takt);
 }
 
 void frmSpielfeld::ZeigePfeil(Pfeil pfeil, int phase) {
   pfeile_.at(pfeil)->SetzeBild(pfeil == Pfeil::Start ? frmBilder::imgPfeilhoch(phase)
                                                      : frmBilder::imgPfeil(phase));
+}
+
+void frmSpielfeld::StoppePfeil(Pfeil pfeil) {
+  timer_.at(pfeil).stop();
+  ZeigePfeil(pfeil, kKeinPfeil);
 }
 
 void frmSpielfeld::SpieleSound(int effekt) {
@@ -279,19 +221,19 @@ void frmSpielfeld::SpieleSound(int effekt) {
 }
 
 void frmSpielfeld::Melde(const Meldung &meldung) {
-  if (meldung.Klang != kKeinKlang)
-    SpieleSound(meldung.Klang);
+  if (meldung.sound != kKeinSound)
+    SpieleSound(meldung.sound);
   frmMsgOk(meldung).ZeigeUeber(this);
 }
 
 bool frmSpielfeld::Frage(const Meldung &meldung) {
-  SpieleSound(meldung.Klang);
+  SpieleSound(meldung.sound);
   frmMsgJa(meldung).ZeigeUeber(this);
   return spiel.Antwort == kJa;
 }
 
 void frmSpielfeld::BestenlistePruefen() {
-  Bestenfenster();  // Its making reads the list anew.
+  Bestenfenster();  // Making the window reads the list from the file.
   ::BestenlistePruefen(*this);
 }
 
@@ -308,8 +250,8 @@ bool frmSpielfeld::event(QEvent *ereignis) {
   const bool gesperrt = ereignis->type() == QEvent::WindowBlocked;
   QWidget *wartend = QApplication::activeModalWidget();
   if (ereignis->type() == QEvent::WindowActivate && wartend)
-    wartend->activateWindow();  // The keys belong to it.
-  // Assistive technology reaches the entries even while another window waits for an answer.
+    wartend->activateWindow();  // The focus belongs to the modal window.
+  // Assistive technology can trigger menu entries while a modal window is open.
   if (gesperrt || ereignis->type() == QEvent::WindowUnblocked) {
     for (QActionGroup *eintraege : findChildren<QActionGroup *>())
       eintraege->setEnabled(!gesperrt);
@@ -319,7 +261,7 @@ bool frmSpielfeld::event(QEvent *ereignis) {
 
 void frmSpielfeld::showEvent(QShowEvent *ereignis) {
   QMainWindow::showEvent(ereignis);
-  QTimer::singleShot(0, this, [this] {  // Meanwhile the desktop puts the frame around the window.
+  QTimer::singleShot(0, this, [this] {  // Meanwhile the window manager makes the frame.
     LadeSpielbilder(devicePixelRatioF());
     std::ranges::for_each(findChildren<Bild *>(), &Bild::LadeVor);
   });
@@ -327,7 +269,7 @@ void frmSpielfeld::showEvent(QShowEvent *ereignis) {
 
 void frmSpielfeld::moveEvent(QMoveEvent *ereignis) {
   QMainWindow::moveEvent(ereignis);
-  // How wide the frame is becomes known when the desktop has put it around the window.
+  // The size of the frame is known only after the window manager has made it.
   if (!mitRahmenZentriert_ && frameGeometry() != geometry()) {
     mitRahmenZentriert_ = true;
     Zentriere();
@@ -349,7 +291,7 @@ bool frmSpielfeld::focusNextPrevChild(bool vorwaerts) {
 }
 
 void frmSpielfeld::Form_Unload() {
-  StelleTimer(Pfeil::Weiter, 0);
+  StoppePfeil(Pfeil::Weiter);
   QCoreApplication::exit(0);
 }
 
@@ -372,19 +314,19 @@ void frmSpielfeld::imgSpeichern_Click() {
 void frmSpielfeld::imgModus_Click(int modus) {
   spiel.Spielmodus = static_cast<std::int16_t>(modus);
   ZeigeModuswahl();
-  SetzeModustext("Spielmodus  :  " + ModusName(modus));
+  SetzeModustext(GewaehlterModus(modus));
   SchreibeIni();
 }
 
 void frmSpielfeld::imgEinstellungen_Click() {
   if (spiel.Punkte != 0 && !Frage(FrageEinstellungen()))
     return;
-  StoppePfeil(*this, Pfeil::Start);
-  SpieleSound(kKlangBlip);
+  StoppePfeil(Pfeil::Start);
+  SpieleSound(kSoundBlip);
   frmOptionen optionen(this, *this);
   optionen.Platziere(this, Lage::LinksOben);
   optionen.exec();
-  activateWindow();  // Some desktops lose the focus when two windows close one after the other.
+  activateWindow();  // Some window managers lose the focus when two windows close at once.
 }
 
 void frmSpielfeld::imgBester_Click() {
@@ -400,7 +342,7 @@ void frmSpielfeld::lblInfo_Click() {
   Melde(MeldungInfo());
 }
 
-void frmSpielfeld::mnuBeste_Click() {
-  SpieleSound(kKlangBlip);
+void frmSpielfeld::mnuInfo4_Click() {
+  SpieleSound(kSoundBlip);
   Bestenfenster().ZeigeZumLesen();
 }

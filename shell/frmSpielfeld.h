@@ -1,6 +1,5 @@
 /// @file
-/// The main window: the board, the panel, the buttons and the menu. It is the screen of the rules,
-/// and it hands every press on to them.
+/// The main window: board, panel, buttons and menu. It implements the screen for the rules.
 #pragma once
 
 #include <QMainWindow>
@@ -8,16 +7,18 @@
 #include <map>
 #include <memory>
 
+#include "controls/tastatur.h"
 #include "controls/wahlgruppe.h"
 #include "core/ansicht.h"
 #include "shell/panel.h"
-#include "shell/tastatur.h"
 
 class Beschriftung;
 class Bild;
-class QAction;
 class Spielbrett;
 class frmBeste;
+
+/// The client area of the main window: 878 by 729 pixels at full scale.
+inline constexpr Twips kClientflaeche{0, 0, 13170, 10935};
 
 class frmSpielfeld final : public QMainWindow, public Ansicht {
   Q_OBJECT
@@ -25,13 +26,21 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
  public:
   frmSpielfeld();
 
-  /// Lets the mode row show the mode in force as pressed.
+  /// Shows the face of the current mode as chosen.
   void ZeigeModuswahl();
-  /// Shows the button that loads a game and enables its menu entry, or takes both away.
-  void ErlaubeLaden(bool erlaubt);
-  /// The window of the best list, made at its first use and again after its closing box has
-  /// unloaded it.
+  /// The window of the best list. It is made at its first use, and anew after its closing box has
+  /// deleted it.
   frmBeste &Bestenfenster();
+
+  // Handlers of buttons and menu entries.
+  void imgOeffnen_Click();
+  void imgSpeichern_Click();
+  void imgModus_Click(int modus);
+  void imgEinstellungen_Click();
+  void imgBester_Click();
+  void lblAnleitung_Click();
+  void lblInfo_Click();
+  void mnuInfo4_Click();
 
   Kachel LiesKachel(int zelle) const override;
   void SetzeKachel(int zelle, Kachel kachel) override;
@@ -43,10 +52,10 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void SetzeModusfarbe(Textfarbe farbe) override;
   bool IstSichtbar(Bedienung bedienung) const override;
   void Zeige(Bedienung bedienung, bool sichtbar) override;
-  void ErlaubeSpeichern(bool erlaubt) override;
   void VerbergeModuswahl() override;
-  void StelleTimer(Pfeil pfeil, int millisekunden) override;
+  void StartePfeil(Pfeil pfeil, int takt) override;
   void ZeigePfeil(Pfeil pfeil, int phase) override;
+  void StoppePfeil(Pfeil pfeil) override;
   void SpieleSound(int effekt) override;
   void Melde(const Meldung &meldung) override;
   bool Frage(const Meldung &meldung) override;
@@ -68,20 +77,9 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
 
   void KnoepfeAufbauen(QWidget *flaeche);
   void PfeileAufbauen(QWidget *flaeche);
-  void MenueAufbauen();
-  void SoundmenueAufbauen(QMenu *menue);
-  /// Puts the window with its frame, as far as that is known, into the middle of the screen.
+  /// Centres the window on its screen. The frame counts once its size is known.
   void Zentriere();
   void Form_Unload();
-
-  void imgOeffnen_Click();
-  void imgSpeichern_Click();
-  void imgModus_Click(int modus);
-  void imgEinstellungen_Click();
-  void imgBester_Click();
-  void lblAnleitung_Click();
-  void lblInfo_Click();
-  void mnuBeste_Click();
 
   Spielbrett *Picture1_ = nullptr;
   std::unique_ptr<Panel> panel_;
@@ -91,8 +89,6 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   Beschriftung *lblModus_ = nullptr;
   std::unique_ptr<Wahlgruppe> imgModus_;
   std::unique_ptr<Tastatur> tastatur_;
-  QAction *mnuLaden_ = nullptr;
-  QAction *mnuSpeichern_ = nullptr;
   bool mitRahmenZentriert_ = false;
-  frmBeste *beste_ = nullptr;  ///< Null while the window is not loaded.
+  frmBeste *beste_ = nullptr;  ///< Null while the window does not exist.
 };

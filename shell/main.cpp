@@ -6,7 +6,7 @@
 #include "platform/datenwurzel.h"
 #include "platform/fenstersystem.h"
 #include "shell/frmSpielfeld.h"
-#include "shell/iniMain.h"
+#include "shell/start.h"
 
 namespace {
 

@@ -5,14 +5,14 @@
 
 namespace {
 
-/// A row of the panel: the label picture and the places of its digits.
+/// A row of the panel: its label picture and its digits.
 struct Paneleintrag {
   Bildeintrag tafel;
   Twips ecke;
   int stellen;
-  const char *rot = "";  ///< What a screen reader says before red digits.
+  const char *rot = "";  ///< A screen reader says this before red digits.
 };
-/// In the order of `Panelreihe`; the last three share `imgAuswertung`, two places each.
+/// In the order of `Panelreihe`.
 const Paneleintrag kPanel[] = {
     {{"Image1",
       {240, 3330, 2865, 630},
@@ -31,13 +31,13 @@ const Paneleintrag kPanel[] = {
      {2280, 4140},
      3,
      "minus "},
-    {{"Image4",
-      {270, 6180, 2865, 630},
-      "tafelLevel",
-      "Level, der gespielt wird",
-      "Level",
+    {{"Image2",
+      {240, 4710, 2865, 630},
+      "tafelFehlversuche",
+      "Felder, die falsch geöffnet wurden",
+      "Fehlversuche",
       QAccessible::Graphic},
-     {2460, 6300},
+     {2460, 4830},
      2},
     {{"Image3",
       {210, 5460, 2865, 630},
@@ -47,16 +47,15 @@ const Paneleintrag kPanel[] = {
       QAccessible::Graphic},
      {2430, 5580},
      2},
-    {{"Image2",
-      {240, 4710, 2865, 630},
-      "tafelFehlversuche",
-      "Felder, die falsch geöffnet wurden",
-      "Fehlversuche",
+    {{"Image4",
+      {270, 6180, 2865, 630},
+      "tafelLevel",
+      "Level, der gespielt wird",
+      "Level",
       QAccessible::Graphic},
-     {2460, 4830},
+     {2460, 6300},
      2},
 };
-constexpr int kStellenJeAuswertung = 2;
 
 }  // namespace
 
@@ -67,13 +66,4 @@ Panel::Panel(QWidget *flaeche) {
     reihen_.at(i) = new Zifferreihe(flaeche, ecke, stellen, tafel.ansage, rot);
     reihen_.at(i)->setToolTip(tafel.tooltip);
   }
-}
-
-void Panel::SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) {
-  auto index = static_cast<std::size_t>(reihe);
-  if (reihe == Panelreihe::imgAuswertung) {
-    index += static_cast<std::size_t>(stelle / kStellenJeAuswertung);
-    stelle %= kStellenJeAuswertung;
-  }
-  reihen_.at(index)->SetzeZiffer(stelle, farbe, ziffer);
 }

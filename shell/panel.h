@@ -1,5 +1,5 @@
 /// @file
-/// The panel: five labels with the digits of points, result, level, rest and errors.
+/// The panel: five label pictures with the digits of points, result, errors, rest and level.
 #pragma once
 
 #include <array>
@@ -11,11 +11,11 @@ class Zifferreihe;
 
 class Panel {
  public:
-  /// Its controls become direct children of the window's surface.
+  /// @param flaeche   becomes the parent of the panel's controls.
   explicit Panel(QWidget *flaeche);
 
-  void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer);
+  Zifferreihe &Reihe(Panelreihe reihe) { return *reihen_.at(static_cast<std::size_t>(reihe)); }
 
  private:
-  std::array<Zifferreihe *, 5> reihen_{};  ///< In the order of the table.
+  std::array<Zifferreihe *, 5> reihen_{};
 };

@@ -3,14 +3,15 @@
 #include <QStringList>
 
 #include "controls/bilder.h"
+#include "core/zug.h"
 
 namespace {
 
-// The picture of the main window shows the board as well.
+// Has no picture of its own: the picture of the main window shows the board.
 const Bildeintrag kPicture1{"Picture1",  {3330, 210, 9645, 9705}, "", "",
                             "Spielfeld", QAccessible::Grouping};
 
-// The pattern of the cells and of the clue places; see Zellenlage and Platzlage.
+// The places of cell 1, of the lowest place of column 1 and of the rightmost place of row 1.
 constexpr Twips kZelle{2370, 2370, 705, 705};
 constexpr Twips kSpaltenplatz{2520, 1800, 435, 465};
 constexpr Twips kZeilenplatz{1800, 2460, 435, 465};
@@ -29,11 +30,11 @@ Twips Zellenlage(int zelle) {
           kZelle.top + kZelle.height * (ZeileVon(zelle) - 1), kZelle.width, kZelle.height};
 }
 
-/// A clue place as the player counts it.
+/// The line and the position of a clue place.
 struct Zahlfeld {
   bool spalte;
   int linie;  ///< From 1.
-  int k;      ///< From 1, the place next to the board.
+  int k;      ///< From 1, which is next to the board.
 };
 
 Zahlfeld ZahlfeldVon(int platz) {
@@ -62,122 +63,71 @@ QByteArray Name(const char *stamm, int nummer) {
   return stamm + QByteArray::number(nummer);
 }
 
-std::size_t Index(int n) {
-  return static_cast<std::size_t>(n);
-}
-
 }  // namespace
 
-/// A cell. The tile that it shows is the one record of what has happened to it.
-class Zellenbild : public Bild {
- public:
-  Zellenbild(QWidget *eltern, int zelle)
-      : Bild(eltern, {Name("imgSar", zelle), Zellenlage(zelle), "", "", ""}), zelle_(zelle) {}
+Zellenbild::Zellenbild(QWidget *eltern, int nummer)
+    : Bild(eltern, {Name("imgSar", nummer), Zellenlage(nummer), "", "", ""}), nummer_(nummer) {}
 
-  Kachel LiesKachel() const { return kachel_; }
-  void SetzeKachel(Kachel kachel) {
-    if (kachel_ == kachel)
-      return;
-    kachel_ = kachel;
-    Aktualisiere();
-  }
+void Zellenbild::SetzeKachel(Kachel kachel) {
+  if (kachel_ == kachel)
+    return;
+  kachel_ = kachel;
+  Aktualisiere();
+}
 
-  QString Bildname() const override {
-    switch (kachel_) {
-      case Kachel::Verdeckt:
-        return frmBilder::imgPlatte(1);
-      case Kachel::Markiert:
-        return frmBilder::imgPlatte(2);
-      case Kachel::Fehler:
-        return frmBilder::imgPlatte(0);
-      case Kachel::Sarant:
-        break;
-    }
-    return frmBilder::imgSarant();
-  }
+QString Zellenbild::Bildname() const {
+  return Kachelbild(kachel_);
+}
 
-  QString Ansage() const override {
-    constexpr std::array kWoerter{"verdeckt", "markiert", "Fehler", "Sarant"};
-    return QString("Zeile %1, Spalte %2: %3")
-        .arg(ZeileVon(zelle_))
-        .arg(SpalteVon(zelle_))
-        .arg(kWoerter.at(static_cast<std::size_t>(kachel_)));
-  }
+QString Zellenbild::Ansage() const {
+  constexpr std::array kWoerter{"verdeckt", "markiert", "Fehler", "Sarant"};
+  return QString("Zeile %1, Spalte %2: %3")
+      .arg(ZeileVon(nummer_))
+      .arg(SpalteVon(nummer_))
+      .arg(kWoerter.at(static_cast<std::size_t>(kachel_)));
+}
 
- private:
-  int zelle_;
-  Kachel kachel_ = Kachel::Verdeckt;
-};
+Zahlenbild::Zahlenbild(QWidget *eltern, int platz)
+    : Bild(eltern, {Name("imgDiggi", platz), Platzlage(ZahlfeldVon(platz)), "", "", "",
+                    QAccessible::StaticText}),
+      platz_(platz) {}
 
-/// A clue place.
-class Zahlenbild : public Bild {
- public:
-  Zahlenbild(QWidget *eltern, int platz)
-      : Bild(eltern, {Name("imgDiggi", platz), Platzlage(ZahlfeldVon(platz)), "", "", "",
-                      QAccessible::StaticText}),
-        feld_(ZahlfeldVon(platz)) {}
+void Zahlenbild::SetzeZahl(int zahl) {
+  zahl_ = zahl;
+  Aktualisiere();
+}
 
-  int LiesZahl() const { return zahl_; }
-  void SetzeZahl(int zahl) {
-    zahl_ = zahl;
-    Aktualisiere();
-  }
+QString Zahlenbild::Bildname() const {
+  return frmZahlen::imgZahl(zahl_);
+}
 
-  QString Bildname() const override { return frmZahlen::imgZahl(zahl_); }
+QString Zahlenbild::Ansage() const {
+  const Zahlfeld feld = ZahlfeldVon(platz_);
+  return QString("%1 %2, Zahl %3: %4")
+      .arg(Linienart(feld.spalte))
+      .arg(feld.linie)
+      .arg(feld.k)
+      .arg(zahl_);
+}
 
-  QString Ansage() const override {
-    return QString("%1 %2, Zahl %3: %4")
-        .arg(Linienart(feld_.spalte))
-        .arg(feld_.linie)
-        .arg(feld_.k)
-        .arg(zahl_);
-  }
-
- private:
-  Zahlfeld feld_;
-  int zahl_ = 0;
-};
-
-Spielbrett::Spielbrett(QWidget *eltern, const std::function<void(int, Qt::MouseButton)> &druck)
-    : Bild(eltern, kPicture1) {
+Spielbrett::Spielbrett(QWidget *eltern, Ansicht &ansicht) : Bild(eltern, kPicture1) {
   for (int n = 1; n <= kZellen; ++n) {
-    imgSar_.at(Index(n)) = new Zellenbild(this, n);
-    imgSar_.at(Index(n))->SetzeDruck([druck, n](Qt::MouseButton taste) { druck(n, taste); });
+    auto *zelle = new Zellenbild(this, n);
+    zelle->SetzeDruck([&ansicht, n](Qt::MouseButton taste) {
+      imgSar_MouseDown(ansicht, n, taste == Qt::LeftButton ? kLinkeTaste : kRechteTaste);
+    });
+    imgSar_.at(static_cast<std::size_t>(n)) = zelle;
   }
   for (int n = 1; n <= kZahlfelder; ++n)
-    imgDiggi_.at(Index(n)) = new Zahlenbild(this, n);
-}
-
-Kachel Spielbrett::LiesKachel(int zelle) const {
-  return imgSar_.at(Index(zelle))->LiesKachel();
-}
-
-void Spielbrett::SetzeKachel(int zelle, Kachel kachel) {
-  imgSar_.at(Index(zelle))->SetzeKachel(kachel);
-}
-
-int Spielbrett::LiesZahl(int platz) const {
-  return imgDiggi_.at(Index(platz))->LiesZahl();
-}
-
-void Spielbrett::SetzeZahl(int platz, int zahl) {
-  imgDiggi_.at(Index(platz))->SetzeZahl(zahl);
-}
-
-void Spielbrett::ZeigeZahlfeld(int platz, bool sichtbar) {
-  imgDiggi_.at(Index(platz))->setVisible(sichtbar);
-}
-
-std::vector<QWidget *> Spielbrett::Zellen() const {
-  return {imgSar_.begin() + 1, imgSar_.end()};
+    imgDiggi_.at(static_cast<std::size_t>(n)) = new Zahlenbild(this, n);
 }
 
 QString Spielbrett::Linientext(bool spalte, int linie) const {
   QStringList zahlen;
   for (int platz = 1; platz <= kZahlfelder; ++platz) {
     const Zahlfeld feld = ZahlfeldVon(platz);
-    if (feld.spalte == spalte && feld.linie == linie && !imgDiggi_.at(Index(platz))->isHidden())
-      zahlen.prepend(QString::number(LiesZahl(platz)));
+    if (feld.spalte == spalte && feld.linie == linie && !Platz(platz).isHidden())
+      zahlen.prepend(QString::number(Platz(platz).LiesZahl()));
   }
   return QString("%1 %2: %3")
       .arg(Linienart(spalte))

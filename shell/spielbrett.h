@@ -1,33 +1,70 @@
 /// @file
-/// The board: its hundred cells, and the clue places above and beside it.
+/// The board: the hundred cells, and the clue places above and beside them.
 #pragma once
 
 #include <array>
-#include <functional>
+#include <vector>
 
 #include "controls/bild.h"
-#include "core/spiel.h"
+#include "core/ansicht.h"
 
-class Zellenbild;
-class Zahlenbild;
+/// A cell. The tile that it shows is the only record of what has happened to it.
+class Zellenbild : public Bild {
+  Q_OBJECT
 
+ public:
+  /// @param nummer   1 to 100.
+  Zellenbild(QWidget *eltern, int nummer);
+
+  Kachel LiesKachel() const { return kachel_; }
+  void SetzeKachel(Kachel kachel);
+
+  QString Bildname() const override;
+  QString Ansage() const override;
+
+ private:
+  int nummer_;
+  Kachel kachel_ = Kachel::Verdeckt;
+};
+
+/// A clue place.
+class Zahlenbild : public Bild {
+  Q_OBJECT
+
+ public:
+  /// @param platz   1 to 100: five to each column from the left, then five to each row from the
+  /// top.
+  Zahlenbild(QWidget *eltern, int platz);
+
+  int LiesZahl() const { return zahl_; }
+  /// @param zahl   0 (empty) to 10.
+  void SetzeZahl(int zahl);
+
+  QString Bildname() const override;
+  QString Ansage() const override;
+
+ private:
+  int platz_;
+  int zahl_ = 0;
+};
+
+/// Holds the cells and the clue places, and hands every press on a cell to the rules.
 class Spielbrett : public Bild {
   Q_OBJECT
 
  public:
-  /// @param druck   is given the cell and the mouse button of each press.
-  Spielbrett(QWidget *eltern, const std::function<void(int, Qt::MouseButton)> &druck);
+  /// @param ansicht   the screen that the rules act on.
+  Spielbrett(QWidget *eltern, Ansicht &ansicht);
 
-  Kachel LiesKachel(int zelle) const;
-  void SetzeKachel(int zelle, Kachel kachel);
-  int LiesZahl(int platz) const;
-  void SetzeZahl(int platz, int zahl);
-  void ZeigeZahlfeld(int platz, bool sichtbar);
+  /// @param nummer   1 to 100.
+  Zellenbild &Zelle(int nummer) const { return *imgSar_.at(static_cast<std::size_t>(nummer)); }
+  /// @param nummer   1 to 100.
+  Zahlenbild &Platz(int nummer) const { return *imgDiggi_.at(static_cast<std::size_t>(nummer)); }
 
   /// The cells, row by row.
-  std::vector<QWidget *> Zellen() const;
-  /// What a screen reader says of the visible numbers of a line, from the left or from the top.
-  /// @param linie   from 1.
+  std::vector<QWidget *> Zellen() const { return {imgSar_.begin() + 1, imgSar_.end()}; }
+  /// The visible numbers of a line, from the left or from the top, for a screen reader.
+  /// @param linie   1 to 10.
   QString Linientext(bool spalte, int linie) const;
 
  private:

@@ -20,7 +20,6 @@ class ArrayScreen : public Ansicht {
   std::string modeText;
   Textfarbe modeColour = Textfarbe::Dunkelblau;
   std::map<Bedienung, bool> visible;
-  bool mayBeSaved = false;
   bool modeRowVisible = true;
   std::map<Pfeil, int> timers;
   std::map<Pfeil, int> arrows;
@@ -43,10 +42,13 @@ class ArrayScreen : public Ansicht {
   void SetzeModusfarbe(Textfarbe farbe) override { modeColour = farbe; }
   bool IstSichtbar(Bedienung b) const override { return visible.contains(b) && visible.at(b); }
   void Zeige(Bedienung bedienung, bool s) override { visible[bedienung] = s; }
-  void ErlaubeSpeichern(bool erlaubt) override { mayBeSaved = erlaubt; }
   void VerbergeModuswahl() override { modeRowVisible = false; }
-  void StelleTimer(Pfeil pfeil, int millisekunden) override { timers[pfeil] = millisekunden; }
+  void StartePfeil(Pfeil pfeil, int takt) override { timers[pfeil] = takt; }
   void ZeigePfeil(Pfeil pfeil, int phase) override { arrows[pfeil] = phase; }
+  void StoppePfeil(Pfeil pfeil) override {
+    timers[pfeil] = 0;
+    arrows[pfeil] = kKeinPfeil;
+  }
   void SpieleSound(int effekt) override { sounds.push_back(effekt); }
   void Melde(const Meldung &meldung) override { messages.push_back(meldung); }
   bool Frage(const Meldung &meldung) override {

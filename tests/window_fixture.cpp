@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QDir>
 
-#include "shell/iniMain.h"
+#include "shell/start.h"
 
 WindowFixture::WindowFixture() {
   spiel = {};

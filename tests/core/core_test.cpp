@@ -57,7 +57,6 @@ class Rules : public testing::Test {
     for (const Bedienung b :
          {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern})
       EXPECT_FALSE(screen.IstSichtbar(b));
-    EXPECT_FALSE(screen.mayBeSaved);
     EXPECT_EQ(screen.timers[Pfeil::Weiter], 0);
     EXPECT_EQ(screen.arrows[Pfeil::Weiter], kKeinPfeil);
     EXPECT_EQ(spiel.Levelpunkte, 0);
@@ -71,10 +70,13 @@ class Rules : public testing::Test {
       text += screen.digits.at({row, places});
     return text;
   }
-  std::string Points() { return Row(Panelreihe::imgPunkte, 5); }
-  std::string LevelPoints() { return Row(Panelreihe::imgLevel, 3); }
+  std::string Points() { return Row(Panelreihe::Punkte, 5); }
+  std::string LevelPoints() { return Row(Panelreihe::Levelpunkte, 3); }
   /// Errors, rest and level, two places each.
-  std::string Counts() { return Row(Panelreihe::imgAuswertung, 6); }
+  std::string Counts() {
+    return Row(Panelreihe::Fehlversuche, 2) + Row(Panelreihe::NochOffen, 2) +
+           Row(Panelreihe::Level, 2);
+  }
 
   ArrayScreen screen;
 };
@@ -116,16 +118,16 @@ TEST_F(Rules, AMoveFollowsTheTableOfTransitions) {
     Kachel after;
     int sound;
     bool newText;
-  } cases[] = {{Verdeckt, kGem, 1, Sarant, kKlangBlip, true},
-               {Verdeckt, kFree, 1, Fehler, kKlangFehler, true},
+  } cases[] = {{Verdeckt, kGem, 1, Sarant, kSoundBlip, true},
+               {Verdeckt, kFree, 1, Fehler, kSoundFehler, true},
                {Verdeckt, kGem, 2, Markiert, 0, true},
                {Verdeckt, kFree, 4, Markiert, 0, true},
                {Markiert, kGem, 1, Markiert, 0, false},
                {Markiert, kFree, 1, Markiert, 0, false},
                {Markiert, kGem, 2, Verdeckt, 0, true},
-               {Sarant, kGem, 1, Sarant, kKlangBlip, true},
+               {Sarant, kGem, 1, Sarant, kSoundBlip, true},
                {Sarant, kGem, 2, Sarant, 0, true},
-               {Fehler, kFree, 1, Fehler, kKlangFehler, true},
+               {Fehler, kFree, 1, Fehler, kSoundFehler, true},
                {Fehler, kFree, 2, Fehler, 0, true}};
   LayBoard({kGem, 2, 3, 50});
   for (const auto &c : cases) {
@@ -135,7 +137,7 @@ TEST_F(Rules, AMoveFollowsTheTableOfTransitions) {
     screen.sounds.clear();
     Press(c.cell, c.button);
     EXPECT_EQ(screen.LiesKachel(c.cell), c.after);
-    EXPECT_EQ(screen.sounds, std::vector<int>(c.sound != kKeinKlang, c.sound));
+    EXPECT_EQ(screen.sounds, std::vector<int>(c.sound != kKeinSound, c.sound));
     EXPECT_EQ(screen.modeText, c.newText ? Moduszeile(3) : "old");
     screen.SetzeKachel(c.cell, Verdeckt);
   }
@@ -151,7 +153,7 @@ TEST_F(Rules, TheSecondErrorLosesTheLevel) {
   screen.sounds.clear();
   Press(kZellen);
   EXPECT_TRUE(screen.IstSichtbar(Bedienung::cmdWiederholen));
-  EXPECT_EQ(screen.sounds, (std::vector{kKlangFehler, kKlangFehler}));
+  EXPECT_EQ(screen.sounds, (std::vector{kSoundFehler, kSoundFehler}));
   EXPECT_EQ(screen.timers[Pfeil::Weiter], 400);
   EXPECT_EQ(screen.modeText, "Klicken Sie auf »Wiederholen«");
   EXPECT_EQ(Counts() + LevelPoints(), "[_][2]_2_1[1][0][0]");
@@ -181,9 +183,8 @@ TEST_F(Rules, TheLastGemWinsEvenBesideAnError) {
     EXPECT_EQ(screen.LiesKachel(98), Verdeckt);
     for (const Bedienung b : {Bedienung::imgNextLevel, Bedienung::imgSpeichern})
       EXPECT_TRUE(screen.IstSichtbar(b));
-    EXPECT_TRUE(screen.mayBeSaved);
     EXPECT_EQ(screen.timers[Pfeil::Weiter], 300);
-    EXPECT_EQ(screen.sounds.back(), kKlangTada);
+    EXPECT_EQ(screen.sounds.back(), kSoundTada);
     EXPECT_EQ(screen.modeText, "Klicken Sie auf »Nächster Level«");
     EXPECT_EQ(Points() + LevelPoints(), shown);
     EXPECT_EQ(spiel.Punkte, points);
@@ -212,7 +213,7 @@ TEST_F(Rules, EachLevelAndModeHasItsGemsStartCellsAndMarks) {
       EXPECT_EQ(FreifelderFuer(level), help[4]);
       ExpectCleanLevel();
       EXPECT_EQ(spiel.SarantenRest, 76 - level - help[mode]);
-      EXPECT_EQ(screen.sounds, std::vector<int>(static_cast<std::size_t>(help[mode]), kKlangBlip));
+      EXPECT_EQ(screen.sounds, std::vector<int>(static_cast<std::size_t>(help[mode]), kSoundBlip));
       EXPECT_EQ(std::accumulate(screen.numbers.begin(), screen.numbers.end(), 0), 2 * (76 - level));
       const auto &list = spiel.lstWiederHolen;
       EXPECT_EQ(list.size(), static_cast<std::size_t>(76 - level));

@@ -51,7 +51,7 @@ TEST_F(SavedGame, IsWrittenByteByByteAndLoadedIntoACleanLevel) {
   EXPECT_EQ(ReadFile(path), "7\r\n3350\r\n2\r\n");
   ExpectGame(7, 2900, 450, 2);
   WriteFile(path, "3\n4711\n3");  // In this level no start cell writes over the text.
-  screen.visible[Bedienung::imgNextLevel] = screen.mayBeSaved = true;
+  screen.visible[Bedienung::imgNextLevel] = true;
   screen.timers = {{Pfeil::Start, 300}, {Pfeil::Weiter, 400}};
   screen.answers = {kJa};
   LadeGewaehlteDatei(screen, path);
@@ -59,7 +59,7 @@ TEST_F(SavedGame, IsWrittenByteByByteAndLoadedIntoACleanLevel) {
   ExpectGame(4, 4711, 0, 3);
   EXPECT_EQ(spiel.SarantenRest, 72);
   EXPECT_TRUE(screen.modeText.starts_with("Spielmodus:  Experte"));
-  EXPECT_FALSE(screen.IstSichtbar(Bedienung::imgNextLevel) || screen.mayBeSaved);
+  EXPECT_FALSE(screen.IstSichtbar(Bedienung::imgNextLevel));
   EXPECT_EQ(screen.timers[Pfeil::Start] + screen.timers[Pfeil::Weiter], 0);
 }
 

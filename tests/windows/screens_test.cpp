@@ -11,7 +11,7 @@
 #include "core/meldungen.h"
 #include "dialogs/frmBeste.h"
 #include "dialogs/frmOptionen.h"
-#include "shell/iniMain.h"
+#include "shell/start.h"
 #include "tests/window_fixture.h"
 
 namespace {
@@ -127,7 +127,9 @@ TEST_F(Screens, AllStandsAsTheInventoryTells) {
   frmSpielfeld mainWindow;
   Record(*mainWindow.centralWidget());
   for (const QAction *entry : mainWindow.findChildren<QAction *>())
-    lines << QString("»%1« %2").arg(entry->text(), entry->shortcut().toString()).trimmed();
+    lines << QString("»%1« %2 %3")
+                 .arg(entry->text(), entry->objectName(), entry->shortcut().toString())
+                 .trimmed();
   frmOptionen options(&mainWindow, mainWindow);
   frmMsgJa question(FrageBeenden());
   frmMsgOk announcement(MeldungInfo());
@@ -136,15 +138,17 @@ TEST_F(Screens, AllStandsAsTheInventoryTells) {
     Record(*window);
   lines << "";
   for (int k = 0; k <= kLeereZiffer; ++k)
-    lines << QStringList{Size(frmZahlen::imgZahl(k)),      Size(frmDigital::imgDiggi(k)),
-                         Size(frmDigital::imgRot(k)),      Size(frmBilder::imgPlatte(k % 3)),
-                         Size(frmBilder::imgPfeil(k % 2)), Size(frmBilder::imgPfeilhoch(k % 2)),
-                         Size(frmBilder::imgSarant())}
+    lines << QStringList{Size(frmZahlen::imgZahl(k)),
+                         Size(frmDigital::imgDiggi(k)),
+                         Size(frmDigital::imgRot(k)),
+                         Size(Kachelbild(static_cast<Kachel>(k % 4))),
+                         Size(frmBilder::imgPfeil(k % 2)),
+                         Size(frmBilder::imgPfeilhoch(k % 2))}
                  .join(" | ");
   for (const auto &messages : {Questions(), Announcements()})
     for (const Meldung &message : messages)
       lines << QString("%1 | %2 | %3 | %4")
-                   .arg(message.Klang)
+                   .arg(message.sound)
                    .arg(static_cast<int>(message.lage))
                    .arg(message.lblMeldung.c_str(), message.lblTitel.c_str())
                    .replace("\r\n", "\\n");

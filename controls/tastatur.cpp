@@ -1,4 +1,4 @@
-#include "shell/tastatur.h"
+#include "controls/tastatur.h"
 
 #include <QAccessible>
 #include <algorithm>
@@ -7,6 +7,13 @@
 #include "controls/bild.h"
 #include "controls/zifferreihe.h"
 #include "core/spiel.h"
+
+void ErlaubeTab(QWidget *fenster) {
+  for (Bild *bild : fenster->findChildren<Bild *>()) {
+    if (bild->IstBedienbar())
+      bild->setFocusPolicy(QAccessible::isActive() ? Qt::TabFocus : Qt::NoFocus);
+  }
+}
 
 Tastatur::Tastatur(QWidget *flaeche, std::vector<QWidget *> zellen,
                    std::function<QString(bool, int)> zahlen)
@@ -68,7 +75,7 @@ void Tastatur::LiesZahlen(bool spalte) const {
 bool Tastatur::Druecke(const QKeyEvent &taste) {
   if (!QAccessible::isActive() || !flaeche_->isAncestorOf(flaeche_->window()->focusWidget()))
     return false;
-  Aktuelles()->setAccessibleDescription({});  // What was read was meant for that moment.
+  Aktuelles()->setAccessibleDescription({});  // The numbers read last.
   if (taste.modifiers() & (Qt::ControlModifier | Qt::AltModifier))
     return false;
   const int abwaerts = bereich_ == kFeld ? kLinie : 1;

@@ -1,11 +1,10 @@
-#include "dialogs/zugang.h"
+#include "controls/zugang.h"
 
 #include <QAccessibleWidget>
 #include <QTimer>
 
 #include "controls/bild.h"
 #include "controls/zifferreihe.h"
-#include "dialogs/bildfenster.h"
 
 namespace {
 
@@ -91,14 +90,14 @@ class ZugangZiffern : public QAccessibleWidget {
   }
 };
 
+/// Qt calls this for each class of an object, the derived ones first.
 QAccessibleInterface *Fabrik(const QString &klasse, QObject *objekt) {
-  Q_UNUSED(klasse)
   if (auto *bild = qobject_cast<Bild *>(objekt))
     return new ZugangBild(bild);
   if (auto *reihe = qobject_cast<Zifferreihe *>(objekt))
     return new ZugangZiffern(reihe);
-  if (auto *fenster = qobject_cast<Bildfenster *>(objekt))
-    return new Zugang(fenster, QAccessible::Dialog);
+  if (klasse == "Bildfenster")
+    return new Zugang(qobject_cast<QWidget *>(objekt), QAccessible::Dialog);
   return nullptr;
 }
 

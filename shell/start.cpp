@@ -1,9 +1,8 @@
-#include "shell/iniMain.h"
+#include "shell/start.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
-#include <QPixmapCache>
 #include <QScreen>
 #include <QToolTip>
 #include <QTranslator>
@@ -12,9 +11,9 @@
 #include "controls/beschriftung.h"
 #include "controls/bilder.h"
 #include "controls/wiederholung.h"
+#include "controls/zugang.h"
 #include "core/befehle.h"
 #include "dialogs/frmHintergrund.h"
-#include "dialogs/zugang.h"
 #include "persistence/iniLumbra.h"
 #include "persistence/modBeste.h"
 #include "persistence/modCdVersion.h"
@@ -25,9 +24,8 @@
 
 namespace {
 
-constexpr QSize kFlaeche(878, 729);  ///< The client area of the main window.
-constexpr QSize kRahmen(16, 61);     ///< What its frame and its menu bar take; they do not shrink.
-constexpr QSize kLeiste(0, 48);      ///< A bar of the desktop, where that does not tell of it.
+constexpr QSize kRahmen(16, 61);  ///< Pixels for the frame and the menu bar, which do not shrink.
+constexpr QSize kLeiste(0, 48);   ///< Height of a desktop panel. Wayland does not report it.
 
 constexpr double kMenueschrift = 9.75;  ///< Points at 96 dpi.
 
@@ -36,12 +34,13 @@ constexpr double kMenueschrift = 9.75;  ///< Points at 96 dpi.
 double Schrumpffaktor() {
   const QSize frei = QGuiApplication::primaryScreen()->availableSize() - kRahmen -
                      (IstWayland() ? kLeiste : QSize(0, 0));
+  const QSize flaeche = Rechteck(kClientflaeche).size();
   return std::min(
-      {1.0, 1.0 * frei.width() / kFlaeche.width(), 1.0 * frei.height() / kFlaeche.height()});
+      {1.0, 1.0 * frei.width() / flaeche.width(), 1.0 * frei.height() / flaeche.height()});
 }
 
 void RichteAnwendungEin(QApplication &anwendung) {
-  // Menus, tool tips and file dialogs look like the game on dark desktops, too.
+  // Menus, tool tips and file dialogs have the game's look on every desktop.
   QApplication::setStyle("Fusion");
   QApplication::setPalette(Steinpalette());
   QToolTip::setPalette(Steinpalette());
@@ -53,11 +52,9 @@ void RichteAnwendungEin(QApplication &anwendung) {
   anwendung.installEventFilter(new Tastenwache(&anwendung));
   // winId() of a message window would make native windows of the main window's children.
   QApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
-  // A menu bar would ask the session bus for a place on the desktop.
+  // A native menu bar would wait for the session bus.
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication::setDesktopFileName("example.glanzgrube.Glanzgrube");
-  // The game keeps its own pictures. Here only the icons of closed file dialogs would pile up.
-  QPixmapCache::setCacheLimit(0);
   QApplication::setWindowIcon(QIcon(Katalogbild("fenstersymbol", anwendung.devicePixelRatio())));
   RichteZugangEin();
 }
@@ -68,7 +65,7 @@ void Main(frmSpielfeld &fenster, const QString &datenwurzel) {
     SchreibeIni();
   LeseIni(fenster);
   fenster.ZeigeModuswahl();
-  fenster.ErlaubeLaden(SpielstandVorhanden());
+  fenster.Zeige(Bedienung::imgOeffnen, SpielstandVorhanden());
   if (!ExistiertDatei(BestenlistePfad()))
     BestenlisteAnlegen();
   BestenlisteLaden(fenster);

@@ -1,0 +1,99 @@
+#include "shell/menue.h"
+
+#include <QActionGroup>
+#include <QMenu>
+#include <QMenuBar>
+#include <functional>
+#include <vector>
+
+#include "core/befehle.h"
+#include "platform/tongeraet.h"
+#include "shell/frmSpielfeld.h"
+
+namespace {
+
+struct Eintrag {
+  const char *name;
+  const char *text = "";  ///< Empty for a separator.
+  std::function<void(frmSpielfeld &)> tat = {};
+  QKeySequence tasten = {};
+};
+
+struct Kopf {
+  const char *name;
+  const char *text;
+  std::vector<Eintrag> eintraege;
+};
+
+constexpr const char *kSound = "mnuSound";  ///< The entry with the submenu.
+
+std::vector<Kopf> Tabelle() {
+  using F = frmSpielfeld;
+  // The blanks at the end of two captions keep the heads of the menus apart.
+  return {
+      {"mnuMenue1",
+       "&Spiel                     ",
+       {{"mnuSpiel1", "Neues Spiel", imgNeuesSpiel_Click, Qt::CTRL | Qt::Key_N},
+        {"mnuSpiel2", "Spielstand laden...", &F::imgOeffnen_Click, Qt::CTRL | Qt::Key_O},
+        {"mnuSpiel3", "Spielstand speichern unter...", &F::imgSpeichern_Click,
+         Qt::CTRL | Qt::Key_S},
+        {"mnuSpiel4"},
+        {"mnuSpiel5", "b&eenden", imgEnde_Click}}},
+      {"mnuMenue2",
+       "&Optionen             ",
+       {{kSound, "Sound"},
+        {"mnuOptionen4"},
+        {"mnuEinstellungen", "Einstellungen...", &F::imgEinstellungen_Click}}},
+      {"mnuMenue3",
+       "&Information",
+       {{"mnuInfo1", "&Spielanleitung", &F::lblAnleitung_Click, Qt::Key_F1},
+        {"mnuInfo2", "&zu dieser Anwendung...", &F::lblInfo_Click},
+        {"mnuInfo3"},
+        {"mnuInfo4", "&Beste Spieler...", &F::mnuInfo4_Click}}},
+  };
+}
+
+/// The choice of the submenu: `mnusoundan1` on, `mnusoundan2` off.
+QAction *BaueSoundmenue(QMenu *menue) {
+  QMenu *untermenue = menue->addMenu("Sound");
+  QAction *mnuSound = untermenue->menuAction();
+  auto *mnusoundan = new QActionGroup(menue->window());
+  for (const char *text : {"an", "aus"}) {
+    QAction *wahl = mnusoundan->addAction(untermenue->addAction(text));
+    wahl->setObjectName("mnusoundan" + QString::number(mnusoundan->actions().size()));
+    wahl->setCheckable(true);
+  }
+  QAction *an = mnusoundan->actions().constFirst();
+  an->setChecked(true);
+  QObject::connect(mnusoundan, &QActionGroup::triggered, menue,
+                   [an](const QAction *wahl) { spiel.SoundAn = wahl == an; });
+
+  const auto Frage = [mnuSound] { mnuSound->setEnabled(SoundGeraetDa()); };
+  QObject::connect(&DerTonmelder(), &Tonmelder::Gewechselt, menue, Frage);
+  QObject::connect(menue, &QMenu::aboutToShow, mnuSound, Frage);
+  Frage();
+  return mnuSound;
+}
+
+}  // namespace
+
+void BaueMenue(frmSpielfeld &fenster) {
+  auto *eintraege = new QActionGroup(&fenster);
+  eintraege->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
+  for (const Kopf &kopf : Tabelle()) {
+    QMenu *menue = fenster.menuBar()->addMenu(kopf.text);
+    menue->setObjectName(kopf.name);
+    for (const Eintrag &eintrag : kopf.eintraege) {
+      QAction *aktion =
+          eintrag.name == kSound ? BaueSoundmenue(menue) : menue->addAction(eintrag.text);
+      aktion->setObjectName(eintrag.name);
+      aktion->setSeparator(*eintrag.text == '\0');
+      aktion->setShortcut(eintrag.tasten);
+      if (!eintrag.tat)
+        continue;
+      eintraege->addAction(aktion);
+      QObject::connect(aktion, &QAction::triggered, &fenster,
+                       [&fenster, tat = eintrag.tat] { tat(fenster); });
+    }
+  }
+}
