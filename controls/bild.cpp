@@ -24,6 +24,25 @@ void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild) {
   maler.setWorldTransform(vorher);
 }
 
+void ZeichneRing(QPainter &maler, const QPixmap &form, double breite) {
+  for (const auto &[farbe, dicke] : {std::pair{Qt::white, breite + 1}, {Qt::blue, breite}}) {
+    QPixmap ring(form.size());
+    ring.setDevicePixelRatio(form.devicePixelRatio());
+    ring.fill(Qt::transparent);
+    QPainter stift(&ring);
+    const QRectF ganz(QPointF(0, 0), form.deviceIndependentSize());
+    stift.drawPixmap(ganz, form, QRectF(form.rect()));
+    stift.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    stift.fillRect(ganz, farbe);
+    // What is left of the form is what lies outside of the same form made smaller.
+    stift.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    stift.setRenderHint(QPainter::SmoothPixmapTransform);
+    stift.drawPixmap(ganz.adjusted(dicke, dicke, -dicke, -dicke), form, QRectF(form.rect()));
+    stift.end();
+    ZeichneGenau(maler, {0, 0}, ring);
+  }
+}
+
 void MeldeNeuenNamen(QWidget *element) {
   if (QAccessible::isActive()) {
     QAccessibleEvent ereignis(element, QAccessible::NameChanged);
@@ -108,11 +127,10 @@ void Bild::Aktualisiere() {
 void Bild::paintEvent(QPaintEvent *ereignis) {
   Q_UNUSED(ereignis)
   QPainter maler(this);
-  ZeichneGenau(maler, {0, 0}, Katalogbild(Bildname(), devicePixelRatioF()));
-  if (hasFocus()) {  // Only the keyboard of assistive technology brings the focus here.
-    maler.setPen(QPen(QColor(kBlau), 3));
-    maler.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
-  }
+  const QPixmap bild = Katalogbild(Bildname(), devicePixelRatioF());
+  ZeichneGenau(maler, {0, 0}, bild);
+  if (hasFocus())
+    ZeichneRing(maler, bild, 2.5);
 }
 
 void Bild::mousePressEvent(QMouseEvent *ereignis) {

@@ -15,6 +15,11 @@ class QPainter;
 /// never scaled.
 void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild);
 
+/// Draws the ring of the focus along the inner edge of a form at (0,0).
+/// @param form a picture whose opaque part is the form, of the resolution of the device
+/// @param breite of its blue part; a thin white line within keeps it visible on every ground
+void ZeichneRing(QPainter &maler, const QPixmap &form, double breite);
+
 /// Tells assistive technology that the name of a control has changed.
 void MeldeNeuenNamen(QWidget *element);
 

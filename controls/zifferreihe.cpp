@@ -64,4 +64,10 @@ void Zifferreihe::paintEvent(QPaintEvent *ereignis) {
         farbe == Ziffernfarbe::Rot ? frmDigital::imgRot(wert) : frmDigital::imgDiggi(wert);
     ZeichneGenau(maler, QPointF(links, 0), Katalogbild(bild, devicePixelRatioF()));
   }
+  if (hasFocus()) {
+    QPixmap form(size() * devicePixelRatioF());
+    form.setDevicePixelRatio(devicePixelRatioF());
+    form.fill();
+    ZeichneRing(maler, form, 1);
+  }
 }

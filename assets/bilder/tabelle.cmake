@@ -22,20 +22,26 @@ endfunction()
 # make the start of the program a tenth longer.
 koernung(.5 .11 .14 .07)
 stueck(RITZUNG ritzung.svg.in)
+set(LICHT_X -172)
+set(LICHT_Y -54)
+stueck(LICHTQUELLE licht.svg.in)
 bild(feld feld 643 647 ENDUNG einlage RAND 16)
-koernung(.5 .11 .16 .08)
+koernung(.5 .11 .12 .06)
+set(LICHT_X 50)
+set(LICHT_Y -40)
+stueck(LICHTQUELLE licht.svg.in)
 bild(spielfeld spielfeld 1000 800 ENDUNG jpg SICHTBREITE 878 SICHTHOEHE 729 RAND 16
      EINLAGE feld EINLAGE_LINKS 222 EINLAGE_OBEN 14)
 
-koernung(.6 .16 .24 .12)
-bild(schreibtisch schreibtisch 643 647 ENDUNG jpg FAKTOREN 1,2 RAND 16 BREITE_INNEN 640.5 HOEHE_INNEN 644.5)
+koernung(".72 .4" .13 .1 .05)
+bild(schreibtisch schreibtisch 643 647 ENDUNG jpg FAKTOREN 1,2 RAND 16)
 
 # The scalloped band: its width, the width without the scallops, and the scallops' diameter. It begins so that
 # both ends of the sheet cut it alike.
 function(papierbogen name breite hoehe sichtbreite sichthoehe bandbreite bogen)
   math(EXPR halb "${bogen} / 2")
   math(EXPR kern "${bandbreite} - ${halb}")
-  math(EXPR perle "${bogen} / 6")
+  math(EXPR perle "${bogen} / 5")
   math(EXPR rille "${kern} - ${halb}")
   math(EXPR lage "(${sichthoehe} % ${bogen}) / 2")
   bild(${name} papier ${breite} ${hoehe} ENDUNG jpg SICHTBREITE ${sichtbreite} SICHTHOEHE ${sichthoehe} RAND 16
@@ -44,12 +50,14 @@ function(papierbogen name breite hoehe sichtbreite sichthoehe bandbreite bogen)
 endfunction()
 
 koernung(.45 .03 .03 .015)
-set(FASSUNG "")
+stueck(EINLAGEN karten.svg.in)
 papierbogen(optionen 1000 800 484 448 72 32)
-stueck(FASSUNG fassung.svg.in)
+stueck(EINLAGEN fassung.svg.in)
 papierbogen(beste     650 450 342 323 46 24)
 
 # ---- Faces ---------------------------------------------------------------------------------------------
+
+stueck(GLAS glas.svg.in)
 
 # The two looks of a face: light and raised at rest, bright green and pressed in when lit.
 macro(aussehen_ruhe)
@@ -128,31 +136,38 @@ function(taste variable X Y B H SCHRIFTGROESSE WORT zeichen)
   set(${variable} "${ergebnis}" PARENT_SCOPE)
 endfunction()
 
-# A picture that is one face.
+# A picture with one face. The face fills the picture, or lies in it from LINKS on and is BREITE wide, so that
+# faces stand in line whose pictures do not.
 function(tastenbild name breite hoehe schrift wort zeichen)
-  taste(INHALT 0 0 ${breite} ${hoehe} ${schrift} "${wort}" ${zeichen})
+  set(lage 0 ${breite})
+  if(ARGC GREATER 6)
+    set(lage ${ARGN})
+  endif()
+  list(GET lage 0 links)
+  list(GET lage 1 flaeche)
+  taste(INHALT ${links} 0 ${flaeche} ${hoehe} ${schrift} "${wort}" ${zeichen})
   bild(${name} bild ${breite} ${hoehe})
 endfunction()
 
 aussehen_ruhe()
-tastenbild(knopfEinstellungen       191 42 17 "Einstellungen"  zahnrad)
-tastenbild(knopfNeuesSpiel          191 42 17 "Neues Spiel"    edelstein)
+tastenbild(knopfEinstellungen       191 42 17 "Einstellungen"  zahnrad 6 167)
+tastenbild(knopfNeuesSpiel          191 42 17 "Neues Spiel"    edelstein 4 167)
 tastenbild(knopfNextLevel           191 42 17 "Nächster Level" weiter)
 tastenbild(knopfWiederholen         191 42 17 "Wiederholen"    nochmal)
 tastenbild(knopfBester              191 42 17 "Bester Spieler" stern)
 tastenbild(sound0                   191 42 17 "Sound aus"      stumm)
 tastenbild(sound1                   191 42 17 "Sound an"       klang)
-tastenbild(knopfSchliessen          191 42 17 "Schließen"      kreuz)
-tastenbild(knopfUebernehmen         191 42 17 "Übernehmen"     haken)
+tastenbild(knopfSchliessen          191 42 17 "Schließen"      kreuz 12 176)
+tastenbild(knopfUebernehmen         191 42 17 "Übernehmen"     haken 2 176)
 tastenbild(knopfBeenden             136 42 17 "Beenden"        aus)
-tastenbild(knopfZuruecksetzen       147 35 14 "Zurücksetzen"   kreuz)
-tastenbild(knopfOk                  143 33 15 "OK"             haken)
+tastenbild(knopfZuruecksetzen       147 35 14 "Zurücksetzen"   kreuz 6 141)
+tastenbild(knopfOk                  143 33 15 "OK"             haken 0 141)
 
 # Faces with two looks: name at rest, name when lit, size, word, badge at rest and badge when lit. A choice
 # shows a tick when it is taken, so that it is told apart without colour.
 set(zwei_aussehen
-  "cmdHilfeAuswahl|cmdHilfeGruen|96|42|17|Hilfe|frage|frage"
-  "cmdBeschreibungenAuswahl|cmdBeschreibungenFruen|96|42|17|Info|info|info"
+  "cmdHilfeAuswahl|cmdHilfeGruen|96|42|16|Hilfe|frage|frage|12|84"
+  "cmdBeschreibungenAuswahl|cmdBeschreibungenFruen|96|42|16|Info|info|info|12|84"
   "modus1|modusWahl1|145|32|15|Einfach|modus1|haken"
   "modus2|modusWahl2|145|32|15|Normal|modus2|haken"
   "modus3|modusWahl3|145|32|15|Experte|modus3|haken"
@@ -164,35 +179,53 @@ set(zwei_aussehen
   "level5|levelWahl5|145|32|15|Level 26|fahne|haken")
 foreach(zeile IN LISTS zwei_aussehen)
   string(REPLACE "|" ";" zeile "${zeile}")
-  list(POP_FRONT zeile ruhe leuchtend breite hoehe schrift wort zeichen zeichen_leuchtend)
+  list(POP_FRONT zeile ruhe leuchtend breite hoehe schrift wort zeichen zeichen_leuchtend)  # What is left tells the place of the face.
   aussehen_leuchtend()
-  tastenbild(${leuchtend} ${breite} ${hoehe} ${schrift} "${wort}" ${zeichen_leuchtend})
+  tastenbild(${leuchtend} ${breite} ${hoehe} ${schrift} "${wort}" ${zeichen_leuchtend} ${zeile})
   aussehen_ruhe()
-  tastenbild(${ruhe} ${breite} ${hoehe} ${schrift} "${wort}" ${zeichen})
+  tastenbild(${ruhe} ${breite} ${hoehe} ${schrift} "${wort}" ${zeichen} ${zeile})
 endforeach()
 
-# Message windows: the faces lie exactly within the spots that take the click.
+# Message windows: the faces lie exactly within the spots that take the click, and the white panel of the text, 135
+# high, from TAFELOBEN on.
+function(meldung name sichtbreite sichthoehe tafeloben tasten)
+  math(EXPR tafelbreite "${sichtbreite} - 8")
+  math(EXPR rahmenbreite "${sichtbreite} - 6")
+  math(EXPR rahmenoben "${tafeloben} - 1")
+  bild(${name} meldung 392 237 ENDUNG jpg SICHTBREITE ${sichtbreite} SICHTHOEHE ${sichthoehe} TASTEN "${tasten}"
+       TAFELOBEN ${tafeloben} TAFELBREITE ${tafelbreite} RAHMENOBEN ${rahmenoben} RAHMENBREITE ${rahmenbreite})
+endfunction()
 taste(nein  33 194 145 25 14 "Nein" kreuz)
 taste(ja   222 194 145 25 14 "Ja"   haken)
 taste(ok   120 195 145 25 14 "OK"   haken)
-bild(meldungJa meldung 392 237 ENDUNG jpg SICHTBREITE 392 SICHTHOEHE 236 STREIFENBREITE 388 TASTEN "${nein}${ja}")
-bild(meldungOk meldung 392 237 ENDUNG jpg SICHTBREITE 387 SICHTHOEHE 228 STREIFENBREITE 383 TASTEN "${ok}")
+meldung(meldungJa 392 236 50 "${nein}${ja}")
+meldung(meldungOk 387 228 52 "${ok}")
 
 # ---- Panel ---------------------------------------------------------------------------------------------
+
+function(spiegelung oben mitte)
+  set(GLASOBEN ${oben})
+  set(GLASMITTE ${mitte})
+  stueck(SPIEGELUNG spiegelung.svg.in)
+  set(SPIEGELUNG "${SPIEGELUNG}" PARENT_SCOPE)
+endfunction()
 
 # A label: word, left edge of the digits' window within the plate, and of the picture within the plate.
 function(tafel name WORT FENSTER LINKS)
   math(EXPR GLAS "${FENSTER} + 1")
   math(EXPR B_FENSTER "180 - ${FENSTER}")
   math(EXPR B_GLAS "${B_FENSTER} - 2")
+  math(EXPR B_SPIEGEL "${B_FENSTER} - 8")
   bild(${name} tafel 191 42)
 endfunction()
+spiegelung(6 22)
 tafel(tafelPunkte       "Punkte"       102 -2)
 tafel(tafelLevelpunkte  "Levelpunkte"  130 -2)
 tafel(tafelFehlversuche "Fehlversuche" 140 -2)
-tafel(tafelOffen        "noch offen"   140 -4)
+tafel(tafelOffen        "noch offen"   136 -4)
 tafel(tafelLevel        "Level"        140  0)
 
+spiegelung(-2 14)
 # The lit segments of the digits 0 to 9 (a at the top, clockwise to f, g in the middle) and of the blank place.
 set(segmente abcdef bc abged abgcd fgbc afgcd afgedc abc abcdefg abcdfg keine)
 function(ziffernreihe name an aus)
@@ -216,20 +249,19 @@ ziffernreihe(rot   ${ROT_AN}   ${ROT_AUS})
 
 # ---- Playfield -----------------------------------------------------------------------------------------
 
-stueck(kerbkreuz kerbkreuz.svg.in)
+stueck(delle delle.svg.in)
 stueck(riss riss.svg.in)
 bild(platte1 platte 47 47 HELL ${SILBER_HELL} MITTEL ${SILBER} DUNKEL ${SILBER_DUNKEL} ZEICHEN "")
-bild(platte2 platte 47 47 HELL ${ROTPLATTE_HELL} MITTEL ${ROTPLATTE} DUNKEL ${ROTPLATTE_DUNKEL} ZEICHEN "${kerbkreuz}")
-bild(platte0 grube 47 47 HELL ${GRUBE_HELL} DUNKEL ${GRUBE_DUNKEL} INHALT "${riss}")
-bild(sarant  grube 47 47 HELL ${FASSUNG_HELL} DUNKEL ${FASSUNG_DUNKEL}
-     INHALT "<g transform='translate(23.5,23.5) scale(.198)'>${EDELSTEIN}</g>")
+bild(platte2 platte 47 47 HELL ${ROTPLATTE_HELL} MITTEL ${ROTPLATTE} DUNKEL ${ROTPLATTE_DUNKEL} ZEICHEN "${delle}")
+bild(platte0 grube 47 47)
+bild(sarant  sarant 47 47)
 
-# The clue numbers: 0 is the plate alone, and the two figures of 10 are moved together on it.
+# The clue numbers: 0 is the empty place, and the two figures of 10 are narrowed to the width of the plate.
 foreach(zahl RANGE 1 9)
-  bild(zahl${zahl} zahl 29 31 FIGUREN "<text x='14.5'>${zahl}</text>")
+  bild(zahl${zahl} zahl 29 31 FIGUREN "<text>${zahl}</text>")
 endforeach()
-bild(zahl0  zahl 29 31 FIGUREN "")
-bild(zahl10 zahl 29 31 FIGUREN "<g transform='scale(.82,1)'><text x='13.5'>1</text><text x='24.6'>0</text></g>")
+bild(zahl0  bett 29 31)
+bild(zahl10 zahl 29 31 FIGUREN "<text transform='scale(.74,1)'>10</text>")
 
 # The phases of the blinking arrows.
 set(phase 0)

@@ -20,7 +20,8 @@ FARBEN = {name: tuple(bytes.fromhex(wert)) for name, wert in
 GEZEICHNET = (
     ("tafel*.png", "TAFELSCHRIFT", 4.5, (12, 4, 100, 38)),
     ("zahl[1-9]*.png", "ZAHLSCHRIFT", 4.5, (3, 2, 26, 29)),
-    ("knopf*.png", "SCHRIFT", 4.5, (4, 4, -38, -4)),
+    ("knopf[!EN]*.png", "SCHRIFT", 4.5, (4, 4, -38, -4)),
+    ("knopf[EN]*.png", "SCHRIFT", 4.5, (4, 4, -60, -4)),
     ("sound*.png", "SCHRIFT", 4.5, (4, 4, -38, -4)),
     ("cmd*.png", "SCHRIFT", 4.5, (4, 4, -40, -4)),
     ("modus*.png", "SCHRIFT", 4.5, (4, 4, -30, -4)),
@@ -118,9 +119,9 @@ def farbabstand(eins, zwei):
 
 
 def felder(bild):
-    """Returns the mean light of nine fields."""
-    kanten = [bild.size[0] * k // 3 for k in range(4)]
-    teile = (bild.crop((kanten[s], kanten[z], kanten[s + 1], kanten[z + 1])) for z in range(3) for s in range(3))
+    """Returns the mean light of 81 fields; the sign of a mark is as large as one."""
+    kanten = [bild.size[0] * k // 9 for k in range(10)]
+    teile = (bild.crop((kanten[s], kanten[z], kanten[s + 1], kanten[z + 1])) for z in range(9) for s in range(9))
     return [[sum(kanal) / len(kanal) for kanal in zip(*map(linear, teil.getdata()))] for teil in teile]
 
 
