@@ -2,13 +2,21 @@
 
 #include <string>
 
-#include "core/bestand.h"
-
 namespace {
 
 constexpr int kPunktstellen = 5;
 constexpr int kLevelpunktstellen = 3;
 constexpr int kMaxPunkte = 99999;
+
+/// Gems of the board that are not open yet.
+std::int16_t ZaehleRest(const Ansicht &ansicht) {
+  int rest = 0;
+  for (int zelle = 1; zelle <= kZellen; ++zelle) {
+    rest += spiel.ZelleVon(zelle).IstSarant ? 1 : 0;
+    rest -= ansicht.LiesKachel(zelle) == Kachel::Sarant ? 1 : 0;
+  }
+  return static_cast<std::int16_t>(rest);
+}
 
 void LeereStellen(Ansicht &ansicht, Panelreihe reihe, int von, int bis,
                   Ziffernfarbe farbe = Ziffernfarbe::Gruen) {

@@ -1,9 +1,9 @@
 #include "core/zug.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/anzeige.h"
-#include "core/bestand.h"
 
 namespace {
 
@@ -11,6 +11,11 @@ constexpr std::array<std::int32_t, kModi> kBonus{400, 450, 500};
 constexpr std::int32_t kAbzug = 100;
 constexpr int kBlinkenGewonnen = 300;  // milliseconds
 constexpr int kBlinkenVerloren = 400;  // milliseconds
+
+/// False before the first level, when no cell can be played.
+bool BrettLiegt() {
+  return std::ranges::any_of(spiel.Feld, &Zelle::IstSarant);
+}
 
 void LevelGewonnen(Ansicht &ansicht) {
   LevelwertungZeigen(ansicht);

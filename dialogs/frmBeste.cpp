@@ -29,11 +29,10 @@ const Texteintrag kTexte[] = {
 // The upright rule passes behind the digits.
 constexpr Twips kLinien[] = {{1290, 600, 3750, 0}, {3600, 120, 0, 555}, {3600, 3225, 0, 105}};
 
-const Bildeintrag kClear{"lblClear",
-                         {900, 3630, 2205, 525},
-                         "knopfZuruecksetzen",
-                         "Einträge zurücksetzen",
-                         "Einträge zurücksetzen"};
+// clang-format off
+const Bildeintrag kClear{"lblClear", {900, 3630, 2205, 525}, "knopfZuruecksetzen",
+                         "Einträge zurücksetzen", "Einträge zurücksetzen"};
+// clang-format on
 const Bildeintrag kEnde{"cmdEnde", {990, 4260, 2145, 495}, "knopfOk", "Fenster schließen", "OK"};
 
 /// Lets a text box take only what the list's file can hold, so that the player sees what is kept.

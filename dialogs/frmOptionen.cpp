@@ -30,23 +30,18 @@ const std::vector<Wahlgruppe::Wahleintrag> kModuseintraege{{{1650, 3640, 2175, 4
 
 constexpr Twips kTrennlinie{1680, 4920, 5100, 0};
 
-constexpr Twips kSoundlage{2250, 5100, 2865, 630};
+// clang-format off
 const Bildeintrag kSound[] = {
-    {"imgSound0", kSoundlage, "sound0", "Soundeffekt einschalten", "Soundeffekt",
-     QAccessible::CheckBox},
-    {"imgSound1", kSoundlage, "sound1", "Soundeffekt ausschalten", "Soundeffekt",
-     QAccessible::CheckBox},
+    {"imgSound0", {2250, 5100, 2865, 630}, "sound0",
+     "Soundeffekt einschalten", "Soundeffekt", QAccessible::CheckBox},
+    {"imgSound1", {2250, 5100, 2865, 630}, "sound1",
+     "Soundeffekt ausschalten", "Soundeffekt", QAccessible::CheckBox},
 };
-const Bildeintrag kEnde{"cmdEnde",
-                        {1470, 5940, 2865, 630},
-                        "knopfSchliessen",
-                        "Fenster schließen ohne die Einstellungen zu übernehmen",
-                        "Schließen"};
-const Bildeintrag kNehmen{"cmdNehmen",
-                          {4380, 5940, 2865, 630},
-                          "knopfUebernehmen",
-                          "Einstellungen übernehmen",
-                          "Übernehmen"};
+const Bildeintrag kEnde{"cmdEnde", {1470, 5940, 2865, 630}, "knopfSchliessen",
+                        "Fenster schließen ohne die Einstellungen zu übernehmen", "Schließen"};
+const Bildeintrag kNehmen{"cmdNehmen", {4380, 5940, 2865, 630}, "knopfUebernehmen",
+                          "Einstellungen übernehmen", "Übernehmen"};
+// clang-format on
 
 }  // namespace
 

@@ -8,14 +8,10 @@
 #include <functional>
 #include <optional>
 
-#include "controls/beschriftung.h"
-#include "controls/bild.h"
 #include "controls/bilder.h"
 #include "controls/schirmwechsel.h"
-#include "controls/zifferreihe.h"
 #include "core/befehle.h"
 #include "core/level.h"
-#include "dialogs/frmBeste.h"
 #include "dialogs/frmMsg.h"
 #include "dialogs/frmOptionen.h"
 #include "persistence/iniLumbra.h"
@@ -23,10 +19,8 @@
 #include "persistence/modCdVersion.h"
 #include "persistence/modDateiHandling.h"
 #include "platform/modOpenSave.h"
-#include "platform/modShellExecute.h"
 #include "platform/mod_MySound.h"
 #include "shell/menue.h"
-#include "shell/spielbrett.h"
 
 namespace {
 
@@ -39,17 +33,14 @@ const std::vector<Wahlgruppe::Wahleintrag> kModuseintraege{{{4800, 10380, 2175, 
                                                            {{7140, 10380, 2175, 480}, "Normal"},
                                                            {{9450, 10380, 2175, 480}, "Experte"}};
 
+// clang-format off
 const std::pair<Pfeil, Bildeintrag> kPfeile[] = {
-    {Pfeil::Start,
-     {"imgZeigeStart",
-      {2730, 9300, 360, 495},
-      "",
-      "",
-      "Pfeil auf »Neues Spiel«",
-      QAccessible::Graphic}},
-    {Pfeil::Weiter,
-     {"imgWeiter", {4140, 10170, 495, 360}, "", "", "Pfeil auf den Knopf", QAccessible::Graphic}},
+    {Pfeil::Start, {"imgZeigeStart", {2730, 9300, 360, 495}, "", "",
+                    "Pfeil auf »Neues Spiel«", QAccessible::Graphic}},
+    {Pfeil::Weiter, {"imgWeiter", {4140, 10170, 495, 360}, "", "",
+                     "Pfeil auf den Knopf", QAccessible::Graphic}},
 };
+// clang-format on
 
 }  // namespace
 
@@ -141,10 +132,6 @@ void frmSpielfeld::PfeileAufbauen(QWidget *flaeche) {
   connect(&timer_[Pfeil::Weiter], &QTimer::timeout, this, [this] { NaechsterLevelBlinkt(*this); });
 }
 
-void frmSpielfeld::ZeigeModuswahl() {
-  imgModus_->Waehle(spiel.Spielmodus);
-}
-
 frmBeste &frmSpielfeld::Bestenfenster() {
   if (!beste_) {
     beste_ = new frmBeste(this, *this);
@@ -153,56 +140,12 @@ frmBeste &frmSpielfeld::Bestenfenster() {
   return *beste_;
 }
 
-Kachel frmSpielfeld::LiesKachel(int zelle) const {
-  return Picture1_->Zelle(zelle).LiesKachel();
-}
-
-void frmSpielfeld::SetzeKachel(int zelle, Kachel kachel) {
-  Picture1_->Zelle(zelle).SetzeKachel(kachel);
-}
-
-void frmSpielfeld::SetzeZahl(int platz, int zahl) {
-  Picture1_->Platz(platz).SetzeZahl(zahl);
-}
-
-bool frmSpielfeld::IstZahlNull(int platz) const {
-  return Picture1_->Platz(platz).LiesZahl() == 0;
-}
-
-void frmSpielfeld::ZeigeZahlfeld(int platz, bool sichtbar) {
-  Picture1_->Platz(platz).setVisible(sichtbar);
-}
-
-void frmSpielfeld::SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) {
-  panel_->Reihe(reihe).SetzeZiffer(stelle, farbe, ziffer);
-}
-
-void frmSpielfeld::SetzeModustext(const std::string &text) {
-  lblModus_->ZeigeText(text);
-}
-
-void frmSpielfeld::SetzeModusfarbe(Textfarbe farbe) {
-  lblModus_->SetzeFarbe(farbe == Textfarbe::Blau ? kBlau : kDunkelblau);
-}
-
-bool frmSpielfeld::IstSichtbar(Bedienung bedienung) const {
-  return !bedienungen_.at(bedienung)->isHidden();  // isVisible() is false before the window shows.
-}
-
 void frmSpielfeld::Zeige(Bedienung bedienung, bool sichtbar) {
   bedienungen_.at(bedienung)->setVisible(sichtbar);
   if (bedienung == Bedienung::imgOeffnen)
     findChild<QAction *>("mnuSpiel2")->setEnabled(sichtbar);
   if (bedienung == Bedienung::imgSpeichern)
     findChild<QAction *>("mnuSpiel3")->setEnabled(sichtbar);
-}
-
-void frmSpielfeld::VerbergeModuswahl() {
-  imgModus_->Verberge();
-}
-
-void frmSpielfeld::StartePfeil(Pfeil pfeil, int takt) {
-  timer_.at(pfeil).start(takt);
 }
 
 void frmSpielfeld::ZeigePfeil(Pfeil pfeil, int phase) {
@@ -235,10 +178,6 @@ bool frmSpielfeld::Frage(const Meldung &meldung) {
 void frmSpielfeld::BestenlistePruefen() {
   Bestenfenster();  // Making the window reads the list from the file.
   ::BestenlistePruefen(*this);
-}
-
-void frmSpielfeld::ZeigeBesteneintrag() {
-  Bestenfenster().ZeigeZumEintragen();
 }
 
 void frmSpielfeld::BeendeDasSpiel() {
@@ -332,14 +271,6 @@ void frmSpielfeld::imgEinstellungen_Click() {
 void frmSpielfeld::imgBester_Click() {
   BestenlistePruefen();
   Zeige(Bedienung::imgBester, false);
-}
-
-void frmSpielfeld::lblAnleitung_Click() {
-  OeffneHilfe("saranten.pdf");
-}
-
-void frmSpielfeld::lblInfo_Click() {
-  Melde(MeldungInfo());
 }
 
 void frmSpielfeld::mnuInfo4_Click() {

@@ -7,15 +7,15 @@
 #include <map>
 #include <memory>
 
+#include "controls/beschriftung.h"
 #include "controls/tastatur.h"
 #include "controls/wahlgruppe.h"
+#include "controls/zifferreihe.h"
 #include "core/ansicht.h"
+#include "dialogs/frmBeste.h"
+#include "platform/modShellExecute.h"
 #include "shell/panel.h"
-
-class Beschriftung;
-class Bild;
-class Spielbrett;
-class frmBeste;
+#include "shell/spielbrett.h"
 
 /// The client area of the main window: 878 by 729 pixels at full scale.
 inline constexpr Twips kClientflaeche{0, 0, 13170, 10935};
@@ -27,7 +27,7 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   frmSpielfeld();
 
   /// Shows the face of the current mode as chosen.
-  void ZeigeModuswahl();
+  void ZeigeModuswahl() { imgModus_->Waehle(spiel.Spielmodus); }
   /// The window of the best list. It is made at its first use, and anew after its closing box has
   /// deleted it.
   frmBeste &Bestenfenster();
@@ -38,29 +38,34 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void imgModus_Click(int modus);
   void imgEinstellungen_Click();
   void imgBester_Click();
-  void lblAnleitung_Click();
-  void lblInfo_Click();
+  void lblAnleitung_Click() { OeffneHilfe("saranten.pdf"); }
+  void lblInfo_Click() { Melde(MeldungInfo()); }
   void mnuInfo4_Click();
 
-  Kachel LiesKachel(int zelle) const override;
-  void SetzeKachel(int zelle, Kachel kachel) override;
-  void SetzeZahl(int platz, int zahl) override;
-  bool IstZahlNull(int platz) const override;
-  void ZeigeZahlfeld(int platz, bool sichtbar) override;
-  void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override;
-  void SetzeModustext(const std::string &text) override;
-  void SetzeModusfarbe(Textfarbe farbe) override;
-  bool IstSichtbar(Bedienung bedienung) const override;
+  Kachel LiesKachel(int zelle) const override { return Picture1_->Zelle(zelle).LiesKachel(); }
+  void SetzeKachel(int zelle, Kachel k) override { Picture1_->Zelle(zelle).SetzeKachel(k); }
+  void SetzeZahl(int platz, int zahl) override { Picture1_->Platz(platz).SetzeZahl(zahl); }
+  bool IstZahlNull(int platz) const override { return Picture1_->Platz(platz).LiesZahl() == 0; }
+  void ZeigeZahlfeld(int platz, bool s) override { Picture1_->Platz(platz).setVisible(s); }
+  void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override {
+    panel_->Reihe(reihe).SetzeZiffer(stelle, farbe, ziffer);
+  }
+  void SetzeModustext(const std::string &text) override { lblModus_->ZeigeText(text); }
+  void SetzeModusfarbe(Textfarbe farbe) override {
+    lblModus_->SetzeFarbe(farbe == Textfarbe::Blau ? kBlau : kDunkelblau);
+  }
+  /// True even before the window is shown, unlike isVisible().
+  bool IstSichtbar(Bedienung b) const override { return !bedienungen_.at(b)->isHidden(); }
   void Zeige(Bedienung bedienung, bool sichtbar) override;
-  void VerbergeModuswahl() override;
-  void StartePfeil(Pfeil pfeil, int takt) override;
+  void VerbergeModuswahl() override { imgModus_->Verberge(); }
+  void StartePfeil(Pfeil pfeil, int takt) override { timer_.at(pfeil).start(takt); }
   void ZeigePfeil(Pfeil pfeil, int phase) override;
   void StoppePfeil(Pfeil pfeil) override;
   void SpieleSound(int effekt) override;
   void Melde(const Meldung &meldung) override;
   bool Frage(const Meldung &meldung) override;
   void BestenlistePruefen() override;
-  void ZeigeBesteneintrag() override;
+  void ZeigeBesteneintrag() override { Bestenfenster().ZeigeZumEintragen(); }
   void BeendeDasSpiel() override;
 
  protected:

@@ -10,24 +10,19 @@
 
 namespace {
 
-QtMessageHandler vorher = nullptr;
-
-/// Qt gives up when it finds no screen. A player shall read what is missing, and nothing of the
-/// ways that Qt has tried, neither then nor when one of them leads to a screen.
-void SagWasFehlt(QtMsgType art, const QMessageLogContext &ort, const QString &text) {
-  if (art == QtFatalMsg) {
-    std::fprintf(stderr, "%s\n", kOhneBildschirm);
-    std::_Exit(EXIT_FAILURE);
-  }
-  if (!QByteArray(ort.category).startsWith("qt.qpa."))
-    vorher(art, ort, text);
+/// Replaces Qt's messages about the screens that it tries, and its abort if there is none.
+void SagWasFehlt(QtMsgType art, const QMessageLogContext &, const QString &) {
+  if (art != QtFatalMsg)
+    return;
+  std::fprintf(stderr, "%s\n", kOhneBildschirm);
+  std::_Exit(EXIT_FAILURE);
 }
 
 }  // namespace
 
 int main(int argc, char *argv[]) {
   argc = 1;  // The game has no command line; Qt would act on options of its own.
-  vorher = qInstallMessageHandler(SagWasFehlt);
+  qInstallMessageHandler(SagWasFehlt);
   QApplication anwendung(argc, argv);
   qInstallMessageHandler(nullptr);
   StelleMassstab(Schrumpffaktor());

@@ -12,50 +12,22 @@ struct Paneleintrag {
   int stellen;
   const char *rot = "";  ///< A screen reader says this before red digits.
 };
-/// In the order of `Panelreihe`.
+// In the order of `Panelreihe`.
+constexpr auto kTafel = QAccessible::Graphic;
+// clang-format off
 const Paneleintrag kPanel[] = {
-    {{"Image1",
-      {240, 3330, 2865, 630},
-      "tafelPunkte",
-      "Punkte, die Sie in diesem Spiel haben",
-      "Punkte",
-      QAccessible::Graphic},
-     {1860, 3450},
-     5},
-    {{"Image6",
-      {240, 4020, 2865, 630},
-      "tafelLevelpunkte",
-      "Punkte, die der Level bringt oder kostet",
-      "Levelpunkte",
-      QAccessible::Graphic},
-     {2280, 4140},
-     3,
-     "minus "},
-    {{"Image2",
-      {240, 4710, 2865, 630},
-      "tafelFehlversuche",
-      "Felder, die falsch geöffnet wurden",
-      "Fehlversuche",
-      QAccessible::Graphic},
-     {2460, 4830},
-     2},
-    {{"Image3",
-      {210, 5460, 2865, 630},
-      "tafelOffen",
-      "Saranten, die noch zu finden sind",
-      "noch offen",
-      QAccessible::Graphic},
-     {2430, 5580},
-     2},
-    {{"Image4",
-      {270, 6180, 2865, 630},
-      "tafelLevel",
-      "Level, der gespielt wird",
-      "Level",
-      QAccessible::Graphic},
-     {2460, 6300},
-     2},
+    {{"Image1", {240, 3330, 2865, 630}, "tafelPunkte",
+      "Punkte, die Sie in diesem Spiel haben", "Punkte", kTafel}, {1860, 3450}, 5},
+    {{"Image6", {240, 4020, 2865, 630}, "tafelLevelpunkte",
+      "Punkte, die der Level bringt oder kostet", "Levelpunkte", kTafel}, {2280, 4140}, 3, "minus "},
+    {{"Image2", {240, 4710, 2865, 630}, "tafelFehlversuche",
+      "Felder, die falsch geöffnet wurden", "Fehlversuche", kTafel}, {2460, 4830}, 2},
+    {{"Image3", {210, 5460, 2865, 630}, "tafelOffen",
+      "Saranten, die noch zu finden sind", "noch offen", kTafel}, {2430, 5580}, 2},
+    {{"Image4", {270, 6180, 2865, 630}, "tafelLevel",
+      "Level, der gespielt wird", "Level", kTafel}, {2460, 6300}, 2},
 };
+// clang-format on
 
 }  // namespace
 
