@@ -33,7 +33,7 @@ stueck(LICHTQUELLE licht.svg.in)
 bild(spielfeld spielfeld 1000 800 ENDUNG jpg SICHTBREITE 878 SICHTHOEHE 729 RAND 16
      EINLAGE feld EINLAGE_LINKS 222 EINLAGE_OBEN 14)
 
-koernung(".72 .4" .13 .1 .05)
+koernung(".72 .4" .1 .08 .04)
 bild(schreibtisch schreibtisch 643 647 ENDUNG jpg FAKTOREN 1,2 RAND 16)
 
 # The scalloped band: its width, the width without the scallops, and the scallops' diameter. It begins so that
