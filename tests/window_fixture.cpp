@@ -42,8 +42,9 @@ int main(int argc, char *argv[]) {
   const QTemporaryDir folder;
   QDir::setCurrent(folder.path());  // A full path has a colon under Windows, which ends the name.
   WriteFile("screens", R"({"screens": [
-    {"name": "1", "x": 0, "y": 0, "width": 1280, "height": 1024, "dpr": 1},
-    {"name": "2", "x": 1280, "y": 0, "width": 1280, "height": 1024, "dpr": 2}]})");
+    {"name": "1", "x": 0, "y": 0, "width": 1280, "height": 1024},
+    {"name": "2", "x": 1280, "y": 0, "width": 2560, "height": 2048}]})");
+  qputenv("QT_SCREEN_SCALE_FACTORS", "1=1;2=2");  // Windows do not see a "dpr" of these screens.
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screens");
   qputenv("LC_ALL", "fr_FR.UTF-8");  // Any language but German.
   testing::InitGoogleTest(&argc, argv);
