@@ -7,7 +7,7 @@
 #include "core/ansicht.h"
 #include "core/befehle.h"
 #include "persistence/iniLumbra.h"
-#include "platform/tongeraet.h"
+#include "platform/soundgeraet.h"
 
 namespace {
 
@@ -67,7 +67,7 @@ frmOptionen::frmOptionen(QWidget *hauptfenster, Ansicht &ansicht)
   (new Bild(this, kNehmen))->SetzeKlick([this] { cmdNehmen_Click(); });
 
   ZeigeSound();
-  connect(&DerTonmelder(), &Tonmelder::Gewechselt, this, &frmOptionen::ZeigeSound);
+  connect(&DerSoundmelder(), &Soundmelder::Gewechselt, this, &frmOptionen::ZeigeSound);
   imgModus_.Waehle(ModusWahl);
   imgLevel_.Waehle(LevelWahl);
 }

@@ -8,7 +8,7 @@
 
 QString Datenpfad(const QString &name) {
   const QString ordner =
-      spiel.DatenordnerAktiv ? QString::fromStdString(spiel.Datenordner) : Programmordner();
+      spiel.DatenordnerAktiv ? QString::fromStdString(spiel.Datenordner) : Ressourcenordner();
   return MitBackslash(ordner) + name;
 }
 

@@ -10,7 +10,7 @@ QString DateiOeffnenDialog(QWidget *besitzer, const QString &ordner) {
 }
 
 QString DateiSpeichernDialog(QWidget *besitzer, const QString &ordner) {
-  const QString programm = Programmordner();
+  const QString programm = Ressourcenordner();
   const QString wurzel = programm.left(programm.indexOf(u'/') + 1);
   return WaehleSpieldatei(QFileDialog::AcceptSave, besitzer, "Spieldatei speichern unter",
                           ordner.isEmpty() ? wurzel : ordner)

@@ -4,7 +4,7 @@
 #include "platform/pfade.h"
 
 void OeffneHilfe(const QString &name) {
-  const QString pfad = MitBackslash(Programmordner()) + name;
+  const QString pfad = MitBackslash(Ressourcenordner()) + name;
   if (ExistiertDatei(pfad))
     OeffneDokument(pfad);
 }

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "platform/pfade.h"
-#include "platform/tongeraet.h"
+#include "platform/soundgeraet.h"
 
 namespace {
 
@@ -17,7 +17,7 @@ void SpieleSound(int n) {
   const auto index = static_cast<std::size_t>(n - 1);
   if (index >= kSoundDateien.size())
     return;
-  const QString pfad = MitBackslash(Programmordner()) + kSoundDateien[index];
+  const QString pfad = MitBackslash(Ressourcenordner()) + kSoundDateien[index];
   if (QFileInfo(pfad).isFile())
     SpieleWellendatei(pfad);
 }

@@ -10,7 +10,7 @@ QString MitBackslash(const QString &pfad) {
   return pfad + QDir::separator();
 }
 
-QString Programmordner() {
+QString Ressourcenordner() {
   const QDir ordner(QCoreApplication::applicationDirPath());
   const QString gemeinsam = QDir::cleanPath(ordner.filePath("../share/glanzgrube"));
   const bool installiert = ordner.dirName() == "bin" || ordner.dirName() == "games";

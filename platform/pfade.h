@@ -11,4 +11,4 @@ QString MitBackslash(const QString &pfad);
 /// The folder of the files that the program only reads (sounds, documents), without a closing
 /// separator: `<prefix>/share/glanzgrube` if the executable stands in `<prefix>/bin` or
 /// `<prefix>/games` and that folder exists, else the folder of the executable.
-QString Programmordner();
+QString Ressourcenordner();

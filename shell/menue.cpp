@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/befehle.h"
-#include "platform/tongeraet.h"
+#include "platform/soundgeraet.h"
 #include "shell/frmSpielfeld.h"
 
 namespace {
@@ -69,7 +69,7 @@ QAction *BaueSoundmenue(QMenu *menue) {
                    [an](const QAction *wahl) { spiel.SoundAn = wahl == an; });
 
   const auto Frage = [mnuSound] { mnuSound->setEnabled(SoundGeraetDa()); };
-  QObject::connect(&DerTonmelder(), &Tonmelder::Gewechselt, menue, Frage);
+  QObject::connect(&DerSoundmelder(), &Soundmelder::Gewechselt, menue, Frage);
   QObject::connect(menue, &QMenu::aboutToShow, mnuSound, Frage);
   Frage();
   return mnuSound;

@@ -1,4 +1,4 @@
-#include "platform/tongeraet.h"
+#include "platform/soundgeraet.h"
 
 #include <windows.h>
 // Needs the header above.
@@ -6,8 +6,8 @@
 
 #include <QDir>
 
-Tonmelder &DerTonmelder() {
-  static Tonmelder melder;
+Soundmelder &DerSoundmelder() {
+  static Soundmelder melder;
   return melder;
 }
 

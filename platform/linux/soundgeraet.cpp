@@ -1,78 +1,69 @@
-// The sound server is PulseAudio or what speaks its language. Its asynchronous interface runs on
-// the main loop of GLib, which is also Qt's: every answer comes on the one thread, between two
-// events of the player's.
+// Sound through libpulse, the library of PulseAudio and PipeWire. Its asynchronous interface runs
+// on the main loop of GLib, which is also Qt's event loop, so callbacks come on the one thread.
 // Source: the documentation of libpulse, "Asynchronous API", "Playback" and "Buffer attributes".
 #include <pulse/glib-mainloop.h>
 #include <pulse/pulseaudio.h>
-// Qt's keyword `signals` would spoil the headers above.
+// Qt defines `signals` as a macro, which breaks the headers above if it comes first.
 #include <sndfile.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QPointer>
-#include <QStandardPaths>
 #include <algorithm>
 #include <memory>
 #include <utility>
 #include <vector>
 
-#include "platform/tongeraet.h"
+#include "platform/soundgeraet.h"
 
 namespace {
 
-/// The effects are much shorter; a longer file that a player put in their place is cut off.
-constexpr sf_count_t kLaengsterKlang = 10;  // seconds
+/// A longer file is cut off. The effects of the game are much shorter.
+constexpr sf_count_t kLaengsterSound = 10;  // seconds
 
-/// How far ahead of the ear the server may work, so that a click is heard when it is made.
+/// Playback latency. The sound of a click must not lag behind it.
 constexpr pa_usec_t kVorlauf = 40 * PA_USEC_PER_MSEC;
 
-struct Klang {
-  pa_sample_spec format{};
-  std::vector<short> werte;
+struct Sound {
+  pa_sample_spec Format{};
+  std::vector<short> Werte;
 
-  std::size_t Bytes() const { return werte.size() * sizeof(short); }
+  std::size_t Bytes() const { return Werte.size() * sizeof(short); }
 };
 
 /// An empty sound if the file cannot be read.
-Klang Lies(const QString &pfad) {
+Sound Lies(const QString &pfad) {
   SF_INFO info{};
   const std::unique_ptr<SNDFILE, decltype(&sf_close)> datei(
       sf_open(QFile::encodeName(pfad).constData(), SFM_READ, &info), &sf_close);
   if (!datei)
     return {};
-  Klang klang;
-  klang.format = {PA_SAMPLE_S16NE, static_cast<std::uint32_t>(info.samplerate),
+  Sound sound;
+  sound.Format = {PA_SAMPLE_S16NE, static_cast<std::uint32_t>(info.samplerate),
                   static_cast<std::uint8_t>(info.channels)};
-  if (!pa_sample_spec_valid(&klang.format))
+  if (!pa_sample_spec_valid(&sound.Format))
     return {};
-  const sf_count_t laenge = std::min(info.frames, kLaengsterKlang * info.samplerate);
-  klang.werte.resize(static_cast<std::size_t>(laenge * info.channels));
-  klang.werte.resize(static_cast<std::size_t>(
-      std::max<sf_count_t>(0, sf_readf_short(datei.get(), klang.werte.data(), laenge)) *
+  const sf_count_t laenge = std::min(info.frames, kLaengsterSound * info.samplerate);
+  sound.Werte.resize(static_cast<std::size_t>(laenge * info.channels));
+  sound.Werte.resize(static_cast<std::size_t>(
+      std::max<sf_count_t>(0, sf_readf_short(datei.get(), sound.Werte.data(), laenge)) *
       info.channels));
-  return klang;
+  return sound;
 }
 
-/// False if the player has no key for sound servers. libpulse would make one, among the player's
-/// own files; a server on this machine does not ask for it.
-bool KenntServer() {
-  return QFile::exists(QDir::home().filePath(".pulse-cookie")) ||
-         !QStandardPaths::locate(QStandardPaths::GenericConfigLocation, "pulse/cookie").isEmpty();
-}
-
-class Tonserver final : public Tonmelder {
+/// The connection to the sound server.
+class Soundserver final : public Soundmelder {
  public:
-  explicit Tonserver(QObject *besitzer)
-      : Tonmelder(besitzer), schleife_(pa_glib_mainloop_new(nullptr)) {
+  explicit Soundserver(QObject *besitzer)
+      : Soundmelder(besitzer), schleife_(pa_glib_mainloop_new(nullptr)) {
     Verbinde();
   }
-  ~Tonserver() override {
+  ~Soundserver() override {
     Trenne();
     pa_glib_mainloop_free(schleife_);
   }
-  Tonserver(const Tonserver &) = delete;
-  Tonserver &operator=(const Tonserver &) = delete;
+  Soundserver(const Soundserver &) = delete;
+  Soundserver &operator=(const Soundserver &) = delete;
 
   bool GeraetDa() {
     if (!IstVerbunden())
@@ -90,7 +81,7 @@ class Tonserver final : public Tonmelder {
   }
 
  private:
-  /// True also while the server has not answered yet.
+  /// Also true while the connection is being made.
   bool IstVerbunden() const { return PA_CONTEXT_IS_GOOD(pa_context_get_state(verbindung_)); }
 
   void Verbinde() {
@@ -104,8 +95,6 @@ class Tonserver final : public Tonmelder {
           Das(ich).ZaehleGeraete();
         },
         this);
-    if (!KenntServer())
-      pa_context_load_cookie_from_file(verbindung_, "/dev/zero");
     pa_context_connect(verbindung_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr);
   }
 
@@ -137,9 +126,9 @@ class Tonserver final : public Tonmelder {
     Erledigt(pa_context_get_sink_info_list(
         verbindung_,
         [](pa_context *, const pa_sink_info *, int ende, void *ich) {
-          Tonserver &server = Das(ich);
+          Soundserver &server = Das(ich);
           ++server.gezaehlt_;
-          if (ende != 0)  // The last call brings no device.
+          if (ende != 0)  // The last call of a list carries no device.
             server.MerkeGeraete(std::exchange(server.gezaehlt_, 0) - 1);
         },
         this));
@@ -151,19 +140,19 @@ class Tonserver final : public Tonmelder {
       emit Gewechselt();
   }
 
-  void Beginne(Klang klang) {
+  void Beginne(Sound sound) {
     Verstumme();
-    if (klang.werte.empty())
+    if (sound.Werte.empty())
       return;
-    klang_ = std::move(klang);
-    strom_ = pa_stream_new(verbindung_, "Klang", &klang_.format, nullptr);
+    sound_ = std::move(sound);
+    strom_ = pa_stream_new(verbindung_, "Sound", &sound_.Format, nullptr);
     if (!strom_)
       return;
     pa_stream_set_state_callback(
         strom_, [](pa_stream *strom, void *ich) { Das(ich).Bereit(strom); }, this);
-    // The whole effect fits into the server's buffer, so that no busy moment of the game is heard.
-    const auto laenge = static_cast<std::uint32_t>(klang_.Bytes());
-    const auto vorlauf = static_cast<std::uint32_t>(pa_usec_to_bytes(kVorlauf, &klang_.format));
+    // The server's buffer holds the whole effect, so the sound has no gaps while the game is busy.
+    const auto laenge = static_cast<std::uint32_t>(sound_.Bytes());
+    const auto vorlauf = static_cast<std::uint32_t>(pa_usec_to_bytes(kVorlauf, &sound_.Format));
     const pa_buffer_attr puffer{UINT32_MAX, laenge, 0, (laenge - std::min(laenge, vorlauf)) / 2,
                                 UINT32_MAX};
     pa_stream_connect_playback(strom_, nullptr, &puffer, PA_STREAM_NOFLAGS, nullptr, nullptr);
@@ -172,11 +161,11 @@ class Tonserver final : public Tonmelder {
   void Bereit(pa_stream *strom) {
     if (pa_stream_get_state(strom) != PA_STREAM_READY)
       return;
-    if (strom != strom_) {  // Cut off before the server had made it.
+    if (strom != strom_) {  // A later effect has replaced it.
       pa_stream_disconnect(strom);
       return;
     }
-    pa_stream_write(strom_, klang_.werte.data(), klang_.Bytes(), nullptr, 0, PA_SEEK_RELATIVE);
+    pa_stream_write(strom_, sound_.Werte.data(), sound_.Bytes(), nullptr, 0, PA_SEEK_RELATIVE);
     Erledigt(pa_stream_drain(strom_, nullptr, nullptr));
   }
 
@@ -187,9 +176,9 @@ class Tonserver final : public Tonmelder {
     pa_stream_unref(std::exchange(strom_, nullptr));
   }
 
-  static Tonserver &Das(void *ich) { return *static_cast<Tonserver *>(ich); }
+  static Soundserver &Das(void *ich) { return *static_cast<Soundserver *>(ich); }
 
-  /// What is under way needs no further attention, and may not have been begun at all.
+  /// Lets an operation run on without its result. It is null if it could not be started.
   static void Erledigt(pa_operation *vorgang) {
     if (vorgang)
       pa_operation_unref(vorgang);
@@ -197,23 +186,23 @@ class Tonserver final : public Tonmelder {
 
   pa_glib_mainloop *schleife_;
   pa_context *verbindung_ = nullptr;
-  pa_stream *strom_ = nullptr;  ///< Plays `klang_`.
-  Klang klang_;
-  QString wartend_;  ///< The last effect that was asked for before the server was ready.
-  int geraete_ = 0;
-  int gezaehlt_ = 0;
+  pa_stream *strom_ = nullptr;  ///< Plays `sound_`.
+  Sound sound_;
+  QString wartend_;   ///< The last effect requested before the connection was ready.
+  int geraete_ = 0;   ///< Devices, as the server last reported.
+  int gezaehlt_ = 0;  ///< Callbacks of the list of devices so far.
 };
 
-Tonserver &DerServer() {
-  static QPointer<Tonserver> server;
+Soundserver &DerServer() {
+  static QPointer<Soundserver> server;
   if (!server)
-    server = new Tonserver(QCoreApplication::instance());
+    server = new Soundserver(QCoreApplication::instance());
   return *server;
 }
 
 }  // namespace
 
-Tonmelder &DerTonmelder() {
+Soundmelder &DerSoundmelder() {
   return DerServer();
 }
 
