@@ -17,7 +17,7 @@ erwartet=(bin/glanzgrube
   share/glanzgrube/{WHOOSH,FRAGE,FEHLER,BLIP,START,TADA}.WAV
   share/glanzgrube/{saranten,Meldefenster,Bestespieler}.pdf
   "share/applications/$kennung.desktop" "share/metainfo/$kennung.metainfo.xml"
-  share/icons/hicolor/{16x16,24x24,32x32,48x48,64x64,128x128,256x256,512x512}/apps/"$kennung.png"
+  share/icons/hicolor/{16x16,22x22,24x24,32x32,48x48,64x64,128x128,256x256,512x512}/apps/"$kennung.png"
   "share/icons/hicolor/scalable/apps/$kennung.svg")
 diff <(printf '%s\n' "${erwartet[@]}" | sort) <(find . -type f -printf '%P\n' | sort)
 
