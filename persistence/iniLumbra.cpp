@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr std::int16_t kUngelesen = -1;  ///< In the file, too, it stands for the default mode.
+constexpr std::int16_t kUngelesen = -1;  ///< Also valid in the file, where it means Normal.
 
 }  // namespace
 

@@ -30,8 +30,8 @@ Dateifehler LiesPunkte(const std::string &text, std::int32_t &wert) {
   return InZahl(QString::fromStdString(text), wert);
 }
 
-/// Brings the list in memory to five entries, whatever was read: missing names and points without a
-/// value are made good, so that a list that is saved can be loaded.
+/// Brings the list in memory to five entries. Missing names become "Niemand" and points that are no
+/// number become 0, so that a saved list can be loaded.
 void ErgaenzeListe() {
   Bestenliste &beste = spiel.Beste;
   beste.lstName.resize(kBeste, kNiemand);

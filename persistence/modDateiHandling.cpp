@@ -18,7 +18,7 @@ const QString kEndung = ".sar";
 
 struct Spielstand {
   std::int16_t Level = 0;
-  QString Punkte;  ///< As it stands in the file; it becomes a number when the player has confirmed.
+  QString Punkte;  ///< As in the file; converted when the player has confirmed.
   std::int16_t Modus = 0;
   Dateifehler Fehler = Dateifehler::Keiner;
 };

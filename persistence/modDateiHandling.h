@@ -6,23 +6,24 @@
 
 #include "core/ansicht.h"
 
-/// True if the folder of the game's data holds a saved game.
+/// True if the data folder holds a file whose name ends in ".sar", hidden files included.
 bool SpielstandVorhanden();
 
-/// Asks whether the player wants to look for a saved game elsewhere if the folder has none.
-/// @param weiter   set to false if the player does not; else left alone.
+/// If the data folder holds no saved game, asks whether the player wants to look elsewhere.
+/// @param weiter   becomes false if the player does not; else it is not changed.
 void SucheSpielstand(Ansicht &ansicht, bool &weiter);
 
-/// Loads the file if its name ends in ".sar", else tells that it is no saved game.
+/// Loads the file if its name ends in ".sar", else shows that it is no saved game.
 void LadeGewaehlteDatei(Ansicht &ansicht, const QString &pfad);
 
 /// Reads a saved game, asks for confirmation and begins the level after the stored one. A failure
-/// is told with its number, see `Dateifehler`; the running game goes on then, as it does after a
-/// no.
+/// shows its number, see `Dateifehler`. After a no and after a failure before the question, the
+/// running game is unchanged. The points are converted after the question: if that fails, `Level`
+/// already has the stored value.
 void LadeSpielstand(Ansicht &ansicht, const QString &pfad);
 
-/// The path with the ending ".sar", which is appended unless it is there in this very case.
+/// The path, with ".sar" appended unless it already ends so, in lower case.
 QString MitEndung(const QString &pfad);
 
-/// Writes the game as it stands after the level just won. A failure is told with its number.
+/// Writes the game as it stands after the level just won. A failure shows its number.
 void SpeichereSpielstand(Ansicht &ansicht, const QString &pfad);

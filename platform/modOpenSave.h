@@ -6,11 +6,12 @@
 
 class QWidget;
 
-/// Both open in a folder and let the player choose any name, existing or not, and ask nothing about
-/// it. They return the full path without leading and trailing blanks, or an empty text when the
-/// player cancels. Where the player goes from there is not remembered.
-/// @param besitzer   the window that waits for the dialog.
-/// @param ordner     if empty, the save dialog opens at the root of the program's drive.
+/// Both let the player choose any name, existing or not, and do not ask before a file is replaced.
+/// They return the full path without leading and trailing blanks, or an empty text if the player
+/// cancels. The folder that the player went to is not remembered.
+/// @param besitzer   the window that the dialog blocks.
+/// @param ordner     where the dialog opens. If empty, the save dialog opens at the root of the
+///                   program's drive.
 QString DateiOeffnenDialog(QWidget *besitzer, const QString &ordner);
 QString DateiSpeichernDialog(QWidget *besitzer, const QString &ordner);
 

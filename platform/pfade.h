@@ -1,14 +1,14 @@
 /// @file
-/// Folders that the program knows. All paths are UTF-16 as Qt has them.
+/// Paths and the folder of the game's resources.
 #pragma once
 
 #include <QString>
 
-/// Returns a folder with exactly one closing separator, ready for a file name behind it. An empty
-/// path stays empty, since a lone separator would lead to the root.
+/// Appends a separator unless the folder ends in one, so that a file name can follow. An empty path
+/// stays empty: a separator alone would be the root.
 QString MitBackslash(const QString &pfad);
 
-/// The folder of the files that the program only reads (sounds, documents), without a closing
-/// separator: `<prefix>/share/glanzgrube` if the executable stands in `<prefix>/bin` or
+/// The folder of the files that come with the program (sounds, help pages), without a closing
+/// separator: `<prefix>/share/glanzgrube` if the executable is in `<prefix>/bin` or
 /// `<prefix>/games` and that folder exists, else the folder of the executable.
 QString Ressourcenordner();

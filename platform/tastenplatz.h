@@ -1,9 +1,9 @@
 /// @file
-/// Keys by their place on the keyboard, whatever its layout writes there.
+/// Keys by their position on the keyboard, independent of its layout.
 #pragma once
 
 class QKeyEvent;
 
-/// The scan code of the key, set 1: the same number for the same place on every system.
+/// The scan code of a letter key, set 1: the same number for the same position on every system.
 /// Source: the table "Scan 1 Make" of the USB HID to PS/2 translation.
 unsigned Tastenplatz(const QKeyEvent &taste);

@@ -3,8 +3,7 @@
 #include <QDir>
 
 QString Datenwurzel() {
-  // Qt would take a relative path as it stands, and so a folder that depends on where the program
-  // was started.
+  // A relative path is ignored: it would depend on the working directory. QStandardPaths takes it.
   const QString heim = qEnvironmentVariable("HOME");
   QString wurzel = qEnvironmentVariable("XDG_DATA_HOME");
   if (!QDir::isAbsolutePath(wurzel))

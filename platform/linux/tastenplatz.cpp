@@ -3,6 +3,6 @@
 #include <QKeyEvent>
 
 unsigned Tastenplatz(const QKeyEvent &taste) {
-  constexpr unsigned kVersatz = 8;  // Of the key codes of X11, which Wayland has kept.
+  constexpr unsigned kVersatz = 8;  // X11 adds it to a scan code, and Wayland does the same.
   return taste.nativeScanCode() - kVersatz;
 }
