@@ -13,11 +13,11 @@ import sys
 import time
 from pathlib import Path
 
-from model import VERDECKT
-from audio import Ohr
-from senses import warte
-from driver import Spieler, lege_ab
-from stopwatch import GRENZE, Stoppuhr
+from audio import Audio
+from driver import Driver, put
+from model import COVERED
+from program import wait_for
+from stopwatch import LIMIT, Stopwatch
 
 RUHE = 20.0  # seconds over which an idle minute is measured
 STARTS = 21
@@ -48,14 +48,14 @@ def starte(schirm, befehl, farbe=None):
     beginn = time.perf_counter()
     prozess = subprocess.Popen(befehl, stderr=subprocess.DEVNULL,
                                env=os.environ | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "0"})
-    while schirm.pixel(MITTE) != farbe and time.perf_counter() - beginn < GRENZE:
+    while schirm.pixel(MITTE) != farbe and time.perf_counter() - beginn < LIMIT:
         time.sleep(0.0005)
     zeit = 1000 * (time.perf_counter() - beginn)
     time.sleep(1)
     ergebnis = zeit, speicher(prozess.pid), schirm.pixel(MITTE)
     prozess.kill()
     prozess.wait()
-    warte(lambda: schirm.pixel(MITTE) == leer, "leerer Schirm")
+    wait_for(lambda: schirm.pixel(MITTE) == leer, "leerer Schirm")
     return ergebnis
 
 
@@ -91,18 +91,18 @@ def startzeilen(schirm, spiel, leer):
 
 def spielzeilen(pfad, uhr):
     """The rows about clicks and idle minutes in a real level."""
-    lege_ab("bench.sar", 39, 500, 1)
-    with Spieler(pfad, Ohr(pfad), uhr) as spiel:
-        spiel.lade("bench.sar")
-        pid = spiel.programm.prozess.pid
-        zelle = spiel.programm.zelle(spiel.zelle_mit(VERDECKT))
+    put("bench.sar", 39, 500, 1)
+    with Driver(pfad, Audio(pfad), uhr) as spiel:
+        spiel.load("bench.sar")
+        pid = spiel.program.process.pid
+        zelle = spiel.program.cell(spiel.cell_with(COVERED))
         for _ in range(KLICKS):
-            uhr.klicke(zelle, 3)
-        rechts = statistics.median(uhr.zeiten)
+            uhr.click(zelle, 3)
+        rechts = statistics.median(uhr.times)
         spielend = rechenzeit(pid)
-        uhr.zeiten.clear()
-        spiel.gewinne()
-        links = statistics.median(uhr.zeiten)
+        uhr.times.clear()
+        spiel.win()
+        links = statistics.median(uhr.times)
         return [
             ("Right press to painted pixel, median", f"{rechts:.1f} ms"),
             ("Left press to painted pixel, with sound, median", f"{links:.1f} ms"),
@@ -133,8 +133,8 @@ def maschine():
 
 def main(bau, ergebnis):
     spiel, leer = bau / "bin/glanzgrube", [bau / "bin/leeres_fenster", bau / "bilder/spielfeld.jpg"]
-    uhr = Stoppuhr()
-    zeilen = [*regelzeilen(bau / "bin/bench_regeln"), *startzeilen(uhr.schirm, spiel, leer),
+    uhr = Stopwatch()
+    zeilen = [*regelzeilen(bau / "bin/bench_regeln"), *startzeilen(uhr.screen, spiel, leer),
               *spielzeilen(spiel, uhr)]
     tabelle = "".join(f"| {was} | {wert} |\n" for was, wert in zeilen)
     text = f"Machine: {maschine()}.\n\n| What | Result |\n| --- | ---: |\n{tabelle}\n"

@@ -6,56 +6,67 @@ usage: [SCREEN=weston] tests/driver/stage access_scenarios.py PROGRAM     weston
 import os
 import sys
 
-from hands import Bushand, Tastenhand
-from model import VERDECKT
-from audio import Ohr
-from senses import ZELLE, warte
-from driver import LISTE, Spieler
+import pyatspi
+from audio import Audio
+from driver import BEST, Driver
+from gi.repository import GLib
+from model import COVERED
+from program import BUTTONS, CELL, Bus, has, wait_for, walk, xdotool
 
 
-def spiele_level(spiel):
-    spiel.schritt("Neues Spiel", spiel.modell.neues_spiel())
-    zelle = spiel.zelle_mit(VERDECKT)
-    for _ in "Marke", "keine Marke":
-        spiel.markiere(zelle)
-    spiel.gewinne()
-    spiel.schritt("Nächster Level", spiel.modell.naechster_level())
+def play_over_bus(driver):
+    driver.read_best()
+    driver.close("OK", BEST)
+    driver.step("Neues Spiel", driver.model.new_game())
+    told = []
+    pyatspi.Registry.registerEventListener(lambda event: told.append(str(event.any_data)),
+                                           "object:property-change:accessible-name")
+    driver.mark(cell := driver.cell_with(COVERED))
+    wait_for(lambda: GLib.MainContext.default().iteration(False)
+             or any(name.endswith("markiert") for name in told), "the new name of a cell")
+    driver.mark(cell)
+    driver.win()
+    driver.step("Nächster Level", driver.model.next_level())
+    driver.quit()
 
 
-def spiele_ueber_bus(spiel):
-    spiel.frage("Info", "Info", "OK")
-    spiel.lies_liste()
-    spiel.druecke("OK", titel=LISTE)
-    spiel.warte_bis_zu(LISTE)
-    spiele_level(spiel)
-    spiel.frage("Neues Spiel", "neu", "Nein")
-    spiel.beende()
+def play_by_keyboard(driver):
+    """Tab changes between board, buttons and panel; arrows go on, the space bar presses."""
+    def focus():
+        return next((e for e in walk(driver.program.app, board=True)
+                     if has(e, pyatspi.STATE_FOCUSED)), None)
 
+    def go(key, fits):
+        wait_for(lambda: (e := focus()) is not None and fits(e) or driver.hand.key(key), key)
 
-def lies_linien(spiel):
-    """Z and S tell the numbers of the row and of the column of the focused cell."""
-    app = spiel.programm.app
-    zelle = ZELLE.match(spiel.hand.gehe(app, "Tab", lambda e: ZELLE.match(e.name)).name)
-    for kuerzel, linie in ("z", ("Zeile", int(zelle[1]))), ("s", ("Spalte", int(zelle[2]))):
-        zahlen = [str(zahl) for zahl in spiel.modell.zahlen.get(linie, {}).values()]
-        ansage = f"{linie[0]} {linie[1]}: {', '.join(reversed(zahlen)) or 'leer'}"
-        spiel.hand.taste(kuerzel)
-        warte(lambda: spiel.hand.fokus(app).description == ansage, ansage)
-    spiel.hand.taste("Left", "Right")
-    warte(lambda: spiel.hand.fokus(app).description == "", "nichts mehr vorgelesen")
+    def press_space_on(name, *down):
+        go("Tab", lambda e: e.getRole() in BUTTONS and not CELL.match(e.name))
+        driver.hand.key(*["Up"] * 12)
+        go("Down", lambda e: e.name == name)
+        xdotool("keydown", "space", *down, "keyup", "space")
 
-
-def main(pfad):
-    ohr = Ohr(pfad)
-    with Spieler(pfad, ohr, Bushand()) as spiel:
-        spiele_ueber_bus(spiel)
-    if "DISPLAY" in os.environ:
-        with Spieler(pfad, ohr, Tastenhand()) as spiel:
-            lies_linien(spiel)
-            spiele_level(spiel)
-            spiel.optionen("Ja", 6, 1, ton=False)
-    ohr.schliesse()
+    # The repeats of a held key must not press what the focus comes to.
+    driver.step(lambda: press_space_on("Neues Spiel", "sleep", 1), driver.model.new_game())
+    go("Tab", lambda e: CELL.match(e.name))
+    cell = driver.covered()[-1]
+    driver.hand.key(*["Down"] * (cell[0] - 1), *["Right"] * (cell[1] - 1), "Up", "Down")
+    for key, line in ("z", ("Zeile", cell[0])), ("s", ("Spalte", cell[1])):
+        numbers = ", ".join(map(str, reversed(driver.model.numbers.get(line, {}).values())))
+        driver.hand.key(key)
+        wait_for(lambda: focus().description == f"{line[0]} {line[1]}: {numbers or 'leer'}", numbers)
+    for _ in "mark", "no mark":
+        driver.model.mark(cell)
+        driver.step("shift+space")
+    driver.step(lambda: driver.hand.key("space"), driver.model.click(cell))
+    press_space_on("Beenden")
+    driver.confirm("»Spiel beenden«", "j")
+    driver.program.end()
 
 
 if __name__ == "__main__":
-    main(sys.argv[1])
+    AUDIO = Audio(sys.argv[1])
+    with Driver(sys.argv[1], AUDIO, Bus()) as DRIVER:
+        play_over_bus(DRIVER)
+    if "DISPLAY" in os.environ:
+        with Driver(sys.argv[1], AUDIO) as DRIVER:
+            play_by_keyboard(DRIVER)

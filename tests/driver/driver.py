@@ -1,221 +1,169 @@
-"""The player: acts, and compares every step with a model of the rules: tiles, numbers, panel, text,
+"""Plays the program and compares every step with a model of the rules: tiles, numbers, panel, text,
 visible controls, files and sound."""
 
-from fnmatch import fnmatchcase
-
 import pyatspi
-from hands import Maushand
-from model import (BLIP, FELD, MARKIERT, MELDUNGEN, MODI, SARANT, VERDECKT, Modell, Widerspruch,
-                    zeilen)
-from senses import (STAGE, ORDNER, TITEL, Abweichung, Programm, alle, aufschriften, beilage, ist,
-                   lies_dateien, texte, warte)
+from model import CELLS, COVERED, GEM, MODES, Contradiction, Model, lines
+from program import (DATA, TITLE, Deviation, Mouse, Program, has, labels, read_files, wait_for, walk,
+                     xdotool)
 
-LISTE, OPTIONEN = "Beste Spieler ", "Form1"
-DATEIDIALOGE = {"ctrl+o": "Spieldatei öffnen", "ctrl+s": "Spieldatei speichern unter"}
+BEST, OPTIONS = "Beste Spieler ", "Form1"
+FILE_DIALOGS = {"ctrl+o": "Spieldatei öffnen", "ctrl+s": "Spieldatei speichern unter"}
 
 
-def lege_ab(name, *werte):
-    ORDNER.mkdir(exist_ok=True)
-    (ORDNER / name).write_bytes(zeilen(*werte))
+def put(name, *values):
+    DATA.mkdir(exist_ok=True)
+    (DATA / name).write_bytes(lines(*values))
 
 
-class Spieler:
+class Driver:
     """Plays one run of the program."""
 
-    def __init__(self, pfad, ohr, hand=None, beim_start=(), ton=True, **umgebung):
-        self.pfad, self.ohr, self.hand = pfad, ohr, hand or Maushand()
-        self.modell = Modell(lies_dateien(), ton)
-        self.programm = Programm(pfad, **umgebung)
-        for meldung in beim_start:
-            self.bestaetige(meldung, "OK")
-        if not beim_start:
-            self.vergleiche()
+    def __init__(self, path, audio, hand=None, at_start=(), sound=True, **environment):
+        self.audio, self.hand, self.sound = audio, hand or Mouse(), sound
+        self.model, self.program = Model(read_files()), Program(path, **environment)
+        for words in at_start:
+            self.confirm(words, "OK")
+        if not at_start:
+            self.compare()
 
     def __enter__(self):
         return self
 
-    def __exit__(self, *fehler):
-        self.programm.brich_ab()
+    def __exit__(self, *error):
+        self.program.kill()
 
     # One step: an action, and what must follow from it.
 
-    def abweichungen(self, neu=True):
+    def deviations(self, anew=True):
         """What the screen and the files have that the model has not."""
-        if self.modell.kacheln is None:  # Only a screen at rest tells what has been drawn.
+        if self.model.tiles is None:  # Only a screen at rest tells what has been drawn.
             try:
-                self.modell.uebernimm(self.programm.ruhe()[0])
-            except Widerspruch as widerspruch:
-                return str(widerspruch)
-        gesehen = self.programm.lies(neu) | {"dateien": lies_dateien()}
-        return [(art, gesehen[art], soll) for art, soll in self.modell.bild().items()
-                if gesehen[art] != soll]
+                self.model.take_over(self.program.rest()[0])
+            except Contradiction as contradiction:
+                return str(contradiction)
+        seen = self.program.read(anew) | {"files": read_files()}
+        return [(kind, seen[kind], wanted) for kind, wanted in self.model.view().items()
+                if seen[kind] != wanted]
 
-    def vergleiche(self):
+    def compare(self):
         """Waits until the program agrees with the model. A second look finds other numbers, too."""
-        warte(lambda: not (self.abweichungen(neu=False) and self.abweichungen()), self.abweichungen)
+        wait_for(lambda: not (self.deviations(anew=False) and self.deviations()), self.deviations)
 
-    def hoere(self, klang):
-        self.ohr.hoere(klang if klang and self.modell.ton else None)
-
-    def tue(self, handlung):
-        """Presses the button or the keys of this name, or does what it is told to do."""
-        if callable(handlung):
-            handlung()
-        elif "+" in handlung:
-            self.hand.taste(*handlung.split())
+    def do(self, action):
+        """Presses the button or the keys of this name, or calls what it is told to."""
+        if callable(action):
+            action()
+        elif "+" in action:
+            self.hand.key(*action.split())
         else:
-            self.druecke(handlung)
+            self.press(action)
 
-    def druecke(self, *namen, titel=None):
-        for name in namen:
-            self.hand.klicke(self.programm.knopf(name, titel))
+    def press(self, *names, title=None):
+        for name in names:
+            self.hand.click(self.program.button(name, title))
 
-    def schritt(self, handlung, klang=None):
-        self.tue(handlung)
-        self.vergleiche()  # Before the sound, which is recorded meanwhile.
-        self.hoere(klang)
+    def step(self, action, sound=None):
+        self.do(action)
+        self.compare()  # Before the sound, which is recorded meanwhile.
+        self.audio.expect(sound if self.sound else None)
 
-    # The field.
+    # The board.
 
-    def klicke(self, zelle, knopf=1):
-        self.hand.klicke(self.programm.zelle(zelle), knopf)
+    def click(self, cell, button=1):
+        self.hand.click(self.program.cell(cell), button)
 
-    def oeffne(self, zelle):
-        self.klicke(zelle)
-        if zelle not in self.modell.brett.wissen:
-            element = self.programm.zelle(zelle)
-            warte(lambda: not element.name.endswith(VERDECKT), f"{zelle} geht auf")
-            self.modell.brett.lerne(zelle, element.name.endswith(SARANT))
-        self.schritt(lambda: None, self.modell.klicke_links(zelle))
+    def open(self, cell):
+        self.click(cell)
+        if cell not in self.model.board.known:
+            element = self.program.cell(cell)
+            wait_for(lambda: not element.name.endswith(COVERED), f"{cell} opens")
+            self.model.board.learn(cell, element.name.endswith(GEM))
+        self.step(lambda: None, self.model.click(cell))
 
-    def markiere(self, zelle, knopf=3):
-        self.modell.klicke_rechts(zelle)
-        self.schritt(lambda: self.klicke(zelle, knopf))
+    def mark(self, cell, button=3):
+        self.model.mark(cell)
+        self.step(lambda: self.click(cell, button))
 
-    def zelle_mit(self, kachel):
-        return next(zelle for zelle in FELD if self.modell.kacheln[zelle] == kachel)
+    def cell_with(self, tile):
+        return next(cell for cell in CELLS if self.model.tiles[cell] == tile)
 
-    def verdeckte(self, ist_sarant=True):
+    def covered(self, is_gem=True):
         """The covered cells that are known to hold a gem, or to hold none."""
-        return [zelle for zelle in FELD if self.modell.kacheln[zelle] == VERDECKT
-                and self.modell.brett.wissen.get(zelle) == ist_sarant]
+        return [cell for cell in CELLS if self.model.tiles[cell] == COVERED
+                and self.model.board.known.get(cell) == is_gem]
 
-    def gewinne(self, uebrig=0):
+    def win(self, left=0):
         """Plays to the win, or until so many gems are left. What is not known is tried first, so
         that losing costs few clicks."""
-        while self.modell.rest() > uebrig:
-            if self.modell.phase == "verloren":
-                self.schritt("Wiederholen", self.modell.wiederhole())
-            self.oeffne(self.modell.brett.lohnendste() or self.verdeckte()[0])
+        while self.model.rest() > left:
+            if self.model.phase == "lost":
+                self.step("Wiederholen", self.model.repeat())
+            self.open(self.model.board.best_guess() or self.covered()[0])
 
-    def verliere(self):
-        """Opens the cells that are marked as free until the level is lost."""
-        while self.modell.phase == "spielt":
-            zelle = self.zelle_mit(MARKIERT)
-            self.oeffne(zelle)  # A mark protects its cell.
-            self.markiere(zelle)
-            self.oeffne(zelle)
+    def lose(self):
+        while self.model.phase == "playing":
+            self.open(self.covered(is_gem=False)[0])
 
     # Messages and windows.
 
-    def bestaetige(self, name, antwort, *werte):
-        """Reads and hears a message and answers it by a button or a key."""
-        klang, *muster = MELDUNGEN[name]
-        muster = [TITEL] + [text.format(*werte or "*") for text in muster]
-        fenster = self.fenster(TITEL)
-        gelesen, knoepfe = texte(fenster), aufschriften(fenster)
-        if not all(map(fnmatchcase, gelesen, muster)):
-            raise Abweichung(f"Meldung {gelesen} statt {muster}")
-        if knoepfe not in ({"Schließen", "Ja", "Nein"}, {"Schließen", "OK"}):
-            raise Abweichung(f"Knöpfe {knoepfe} in {name}")
-        self.hoere(klang)
-        self.hand.taste("Return", *"jn" * ("OK" in knoepfe))  # Keys without a function.
-        if antwort in knoepfe:
-            self.druecke(antwort, titel=TITEL)
+    def confirm(self, words, answer):
+        """Reads the message that has these words, and answers it by a button or a key."""
+        def read():
+            window = self.program.window(TITLE)
+            return window and any(words in label for label in labels(window)) and labels(window)
+        texts = wait_for(read, words)
+        self.audio.listen(int(self.sound and words != "Vielen Dank!"))
+        if answer in ("Ja", "Nein", "OK"):
+            self.press(answer, title=TITLE)
         else:
-            self.hand.taste(antwort)
-        warte(lambda: self.programm.prozess.poll() is not None
-              or (offen := self.programm.fenster(TITEL)) is None or texte(offen) != gelesen,
-              f"Ende von {name}")
+            self.hand.key(answer)
+        wait_for(lambda: self.program.process.poll() is not None
+                 or self.program.window(TITLE) is None or read() != texts, f"end of {words}")
 
-    def frage(self, handlung, name, antwort, *werte, dann=None):
+    def ask(self, action, words, answer, then=None):
         """An action that leads to a message, the message, and the sound that follows the answer."""
-        self.tue(handlung)
-        self.bestaetige(name, antwort, *werte)
-        self.schritt(lambda: None, dann)
+        self.do(action)
+        self.confirm(words, answer)
+        self.step(lambda: None, then)
 
-    def fenster(self, titel):
-        return warte(lambda: self.programm.fenster(titel), titel)
+    def close(self, name, title):
+        self.press(name, title=title)
+        wait_for(lambda: not self.program.window(title), f"end of {title}")
 
-    def warte_bis_zu(self, titel):
-        warte(lambda: not self.programm.fenster(titel), f"Ende von {titel}")
+    def type_into(self, title, text):
+        field = wait_for(lambda: next((e for e in walk(self.program.window(title)) if e.getRole()
+                                       == pyatspi.ROLE_TEXT and has(e, pyatspi.STATE_FOCUSED)), None),
+                         "text field")
+        xdotool("type", "--delay", "40", text)
+        wait_for(lambda: field.queryText().getText(0, -1) == text, f"{text} stands in the field")
 
-    def tippe_in(self, titel, text):
-        feld = warte(lambda: next((e for e in alle(self.fenster(titel)) if e.getRole()
-                                   == pyatspi.ROLE_TEXT and ist(e, pyatspi.STATE_FOCUSED)), None),
-                     "Textfeld")
-        self.hand.tippe(text)
-        warte(lambda: feld.queryText().getText(0, -1) == text, f"{text} steht im Feld")
-
-    def datei(self, befehl, name):
+    def file(self, command, name):
         """Types a name into the file dialog that a command opens; no name cancels it."""
-        titel = DATEIDIALOGE[befehl]
-        self.hand.taste(befehl)
-        self.tippe_in(titel, name)
-        self.hand.taste("Return" if name else "Escape")
-        self.warte_bis_zu(titel)
+        title = FILE_DIALOGS[command]
+        self.hand.key(command)
+        wait_for(lambda: self.program.window(title), title)
+        self.type_into(title, name)
+        self.hand.key("Return" if name else "Escape")
+        wait_for(lambda: not self.program.window(title), f"end of {title}")
 
-    def lade(self, name, antwort="Ja"):
-        """Loads a saved game; with yes the level behind the saved one begins."""
-        level, punkte, modus = map(int, self.modell.dateien[name].split())
-        dann = self.modell.lade(level, punkte, modus) if antwort == "Ja" else None
-        self.frage(lambda: self.datei("ctrl+o", name), "laden", antwort, level + 1, MODI[modus],
-                   punkte, dann=dann)
+    def load(self, name, answer="Ja"):
+        level, points, mode = map(int, self.model.files[name].split())
+        self.ask(lambda: self.file("ctrl+o", name),
+                 f"Level:   {level + 1}\nSpielmodus:  {MODES[mode]}\nPunkte:  {points}", answer,
+                 self.model.new_game(level, points, mode) if answer == "Ja" else None)
 
-    def optionen(self, antwort, level, modus, ton):
-        """Opens the options, chooses, and answers the question behind them."""
-        modell = self.modell
-        self.frage("Einstellungen", "optionen", "j", modell.punkte, dann=BLIP)
-        gewaehlt = {name for name in aufschriften(self.fenster(OPTIONEN)) if name.endswith("*")}
-        if gewaehlt != {"Level 1*", MODI[modell.modus] + "*", *["Soundeffekt*"] * modell.ton}:
-            raise Abweichung(f"gewählt ist {gewaehlt}")
-        self.druecke(f"Level {level}", MODI[modus], *["Soundeffekt"] * (ton != modell.ton),
-                     titel=OPTIONEN)
-        modell.ton = ton  # Even if the question is declined.
-        dann = modell.spiel_ab(level - 1, modus) if antwort == "Ja" else None
-        self.frage(lambda: self.druecke("Übernehmen", titel=OPTIONEN), "auswahl", antwort, level,
-                   MODI[modus], dann=dann)
-        self.warte_bis_zu(OPTIONEN)
+    def read_best(self):
+        """Opens the list of the best players from the menu."""
+        self.press("Information", "Beste Spieler...")
+        window = wait_for(lambda: self.program.window(BEST), BEST)
+        names = [e.queryText().getText(0, -1) for e in walk(window)
+                 if e.getRole() == pyatspi.ROLE_TEXT]
+        if names != self.model.files["sarant.txt"].decode("cp1252").split("\r\n")[:5]:
+            raise Deviation(f"list of {names}")
+        self.audio.listen(int(self.sound))
 
-    def lies_liste(self):
-        """Opens the list of the best players from the menu and compares it."""
-        self.schritt(lambda: self.druecke("Information", "Beste Spieler..."), BLIP)
-        fenster = self.fenster(LISTE)
-        eintraege = [e.queryText().getText(0, -1) for e in alle(fenster)
-                     if e.getRole() == pyatspi.ROLE_TEXT]
-        punkte = [int(text.split(": ")[1]) for text in texte(fenster) if ": " in text]
-        if (gelesen := list(map(list, zip(eintraege, punkte)))) != self.modell.liste():
-            raise Abweichung(f"Liste {gelesen} statt {self.modell.liste()}")
-
-    def druecke_f1(self, dokument):
-        """The document is opened if it exists; the opener of this stage writes its name down."""
-        zettel = STAGE / "opened"
-        self.hand.taste("F1")
-        if beilage(self.pfad, dokument).exists():
-            warte(lambda: zettel.exists() and dokument in zettel.read_text(), dokument)
-            zettel.unlink()
-
-    def ende(self, handlung=lambda: None):
-        self.tue(handlung)
-        self.programm.ende()
-
-    def beende(self):
+    def quit(self):
         """Ends the program in the middle of a game."""
-        self.tue("Beenden")
-        self.bestaetige("ende", "Ja")
-        self.ende()
-
-    def spielende(self, antwort):
-        """The messages behind level 40 up to the offer to enter the best list."""
-        self.bestaetige("beendet", "OK")
-        self.bestaetige("kein Eintrag" if self.modell.platz() is None else "Bestmarke", antwort)
+        self.do("Beenden")
+        self.confirm("»Spiel beenden«", "Ja")
+        self.program.end()

@@ -1,240 +1,169 @@
-"""The rules of the game as the player knows them: told again, without a look at the program."""
+"""The rules of the game, told again without a look at the program."""
 
 from collections import defaultdict
 from itertools import groupby, product
-from pathlib import Path
 
-MODI = {1: "Einfach", 2: "Normal", 3: "Experte"}
+MODES = {1: "Einfach", 2: "Normal", 3: "Experte"}
 BONUS = {1: 400, 2: 450, 3: 500}
-JE_LEVEL = {1: 300, 2: 300, 3: 350}
-VERDECKT, MARKIERT, FEHLER, SARANT = "verdeckt", "markiert", "Fehler", "Sarant"
-BLIP, FALSCH, TADA = "BLIP.WAV", "FEHLER.WAV", "TADA.WAV"
-BESTE = [["Niemand", 15000 - 500 * i] for i in range(5)]
+COVERED, MARKED, WRONG, GEM = "verdeckt", "markiert", "Fehler", "Sarant"
+BLIP, ERROR, TADA = "BLIP.WAV", "FEHLER.WAV", "TADA.WAV"
 
-FELD = [(z, s) for z in range(1, 11) for s in range(1, 11)]
+CELLS = list(product(range(1, 11), repeat=2))
 # The cells of a line in the order in which its numbers are counted: from below, from the right.
-LINIEN = {("Spalte", s): [(z, s) for z in range(10, 0, -1)] for s in range(1, 11)}
-LINIEN |= {("Zeile", z): [(z, s) for s in range(10, 0, -1)] for z in range(1, 11)}
-
+LINES = {("Spalte", c): [(r, c) for r in range(10, 0, -1)] for c in range(1, 11)}
+LINES |= {("Zeile", r): [(r, c) for c in range(10, 0, -1)] for r in range(1, 11)}
 # The fillings of a line by the lengths of their runs.
-MUSTER = defaultdict(list)
-for _muster in product((False, True), repeat=10):
-    MUSTER[tuple(len(list(lauf)) for voll, lauf in groupby(_muster) if voll)].append(_muster)
+FILLINGS = defaultdict(list)
+for _filling in product((False, True), repeat=10):
+    FILLINGS[tuple(len(list(run)) for full, run in groupby(_filling) if full)].append(_filling)
 
 
-def lies_meldungen():
-    """Name, sound and the two texts of every message."""
-    for zeile in (Path(__file__).parent / "messages.txt").read_text("utf-8").splitlines()[1:]:
-        name, klang, *texte = zeile.replace("\\n", "\n").split("|")
-        yield name, (klang, *texte)
+def lines(*values):
+    return "".join(f"{value}\r\n" for value in values).encode("cp1252")
 
 
-MELDUNGEN = dict(lies_meldungen())
-
-
-def zeilen(*werte):
-    return "".join(f"{wert}\r\n" for wert in werte).encode("cp1252")
-
-
-def liste_als_datei(liste):
-    return zeilen(*(name for name, _ in liste), *(punkte for _, punkte in liste))
-
-
-class Widerspruch(Exception):
+class Contradiction(Exception):
     """What is shown contradicts itself."""
 
 
-class Brett:
+class Board:
     """What the numbers and the opened cells tell about one board."""
 
-    def __init__(self, zahlen, anzahl):
-        for art in "Spalte", "Zeile":
-            summe = sum(sum(orte.values()) for linie, orte in zahlen.items() if linie[0] == art)
-            if summe != anzahl:
-                raise Widerspruch(f"Zahlen der {art}n ergeben {summe} statt {anzahl}")
-        if any(list(orte) != list(range(1, len(orte) + 1)) for orte in zahlen.values()):
-            raise Widerspruch("Lücke zwischen Zahlen")
-        self.laeufe = {linie: tuple(zahlen.get(linie, {}).values()) * (anzahl > 0)
-                       for linie in LINIEN}
-        self.wissen = {}
-        self.schliesse(LINIEN)
+    def __init__(self, numbers, gems):
+        if any(list(places) != list(range(1, len(places) + 1)) for places in numbers.values()):
+            raise Contradiction("a gap between numbers")
+        self.runs = {line: tuple(numbers.get(line, {}).values()) * (gems > 0) for line in LINES}
+        for kind in "Spalte", "Zeile":
+            if gems != (total := sum(sum(run) for line, run in self.runs.items() if line[0] == kind)):
+                raise Contradiction(f"the numbers of a {kind} add up to {total}, not {gems}")
+        self.known = {}
+        self.conclude(LINES)
 
-    def deutungen(self, linie):
+    def readings(self, line):
         """Every filling of the line that agrees with its numbers and with what is known."""
-        bekannt = [self.wissen.get(zelle) for zelle in LINIEN[linie]]
-        return [muster for muster in MUSTER[self.laeufe[linie]]
-                if all(b in (None, m) for b, m in zip(bekannt, muster))]
+        known = [self.known.get(cell) for cell in LINES[line]]
+        return [filling for filling in FILLINGS[self.runs[line]]
+                if all(k in (None, f) for k, f in zip(known, filling))]
 
-    def schliesse(self, linien):
+    def conclude(self, changed):
         """Works out what the numbers force, line by line, until nothing new follows."""
-        offen = set(linien)
-        while offen:
-            linie = offen.pop()
-            deutungen = self.deutungen(linie)
-            if not deutungen:
-                raise Widerspruch(f"{linie} {self.laeufe[linie]} passt nicht zum Brett")
-            for zelle, werte in zip(LINIEN[linie], zip(*deutungen)):
-                if zelle not in self.wissen and len(set(werte)) == 1:
-                    self.wissen[zelle] = werte[0]
-                    offen |= {("Zeile", zelle[0]), ("Spalte", zelle[1])}
+        todo = set(changed)
+        while todo:
+            line = todo.pop()
+            readings = self.readings(line)
+            if not readings:
+                raise Contradiction(f"{line} {self.runs[line]} does not fit the board")
+            for cell, values in zip(LINES[line], zip(*readings)):
+                if cell not in self.known and len(set(values)) == 1:
+                    self.known[cell] = values[0]
+                    todo |= {("Zeile", cell[0]), ("Spalte", cell[1])}
 
-    def lerne(self, zelle, ist_sarant):
-        if self.wissen.get(zelle, ist_sarant) != ist_sarant:
-            raise Widerspruch(f"{zelle} ist gegen die Zahlen {ist_sarant}")
-        self.wissen[zelle] = ist_sarant
-        self.schliesse([("Zeile", zelle[0]), ("Spalte", zelle[1])])
+    def learn(self, cell, is_gem):
+        if self.known.setdefault(cell, is_gem) != is_gem:
+            raise Contradiction(f"{cell} is {is_gem} against the numbers")
+        self.conclude([("Zeile", cell[0]), ("Spalte", cell[1])])
 
-    def lohnendste(self):
+    def best_guess(self):
         """The unknown cell that most likely holds a gem; None if the whole board is known."""
-        def aussicht(zelle):
-            deutungen = self.deutungen(("Zeile", zelle[0]))
-            return sum(muster[10 - zelle[1]] for muster in deutungen) / len(deutungen)
-        return max((z for z in FELD if z not in self.wissen), default=None, key=aussicht)
+        def chance(cell):
+            readings = self.readings(("Zeile", cell[0]))
+            return sum(filling[10 - cell[1]] for filling in readings) / len(readings)
+        return max((c for c in CELLS if c not in self.known), default=None, key=chance)
 
 
-class Modell:
+class Model:
     """One run of the program, as the rules want it. An event is a method and returns its sound."""
 
-    def __init__(self, dateien, ton=True):
-        self.dateien = dateien
-        self.dateien.setdefault("sarant.ini", zeilen(2))
-        self.dateien.setdefault("sarant.txt", liste_als_datei(BESTE))
-        self.modus = int(dateien["sarant.ini"][:1])
-        self.ton = ton
-        self.laden = any(name.endswith(".sar") for name in dateien)
-        self.phase = "wartet"
-        self.level = self.punkte = self.levelpunkte = 0
-        self.bester = False
+    def __init__(self, files):
+        best = lines(*["Niemand"] * 5, *range(15000, 12999, -500))
+        self.files = {"sarant.ini": lines(2), "sarant.txt": best} | files
+        self.mode = int(self.files["sarant.ini"][:1])
+        self.may_load = any(name.endswith(".sar") for name in files)
+        self.phase, self.best, self.board = "waiting", False, None
+        self.level = self.points = self.result = 0
         self.text = "Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\""
-        self.kacheln = dict.fromkeys(FELD, VERDECKT)
-        self.zahlen = {linie: dict.fromkeys(range(1, 6), 0) for linie in LINIEN}
-        self.brett = None
+        self.tiles = dict.fromkeys(CELLS, COVERED)
+        self.numbers = {line: dict.fromkeys(range(1, 6), 0) for line in LINES}
 
-    def anzahl(self):
+    def gems(self):
         return 76 - max(self.level, 1)
 
-    def zahl_der(self, kachel):
-        return list(self.kacheln.values()).count(kachel)
+    def count(self, tile):
+        return list(self.tiles.values()).count(tile)
 
     def rest(self):
-        return self.anzahl() - self.zahl_der(SARANT) if self.level else 0
+        return self.gems() - self.count(GEM) if self.level else 0
 
-    def knoepfe(self):
-        wenn = {"Spiel laden": self.laden, "Spiel speichern": self.phase == "gewonnen",
-                "Nächster Level": self.phase == "gewonnen", "Wiederholen": self.phase == "verloren",
-                "Bester Spieler": self.bester}
-        wenn |= {name + "*" * (modus == self.modus): self.phase == "wartet"
-                 for modus, name in MODI.items()}
-        return {"Hilfe", "Info", "Einstellungen", "Neues Spiel", "Beenden",
-                *(name for name, sichtbar in wenn.items() if sichtbar)}
+    def view(self):
+        shown = {"Spiel laden": self.may_load, "Spiel speichern": self.phase == "won",
+                 "Nächster Level": self.phase == "won", "Wiederholen": self.phase == "lost",
+                 "Bester Spieler": self.best}
+        shown |= {name + "*" * (mode == self.mode): self.phase == "waiting"
+                  for mode, name in MODES.items()}
+        panel = {"Punkte": str(self.points), "Fehlversuche": str(self.count(WRONG)),
+                 "Levelpunkte": str(self.result or "leer").replace("-", "minus "),
+                 "noch offen": str(self.rest()), "Level": str(self.level)}
+        return {"tiles": self.tiles, "numbers": self.numbers, "panel": panel, "texts": [self.text],
+                "files": self.files,
+                "buttons": {"Hilfe", "Info", "Einstellungen", "Neues Spiel", "Beenden",
+                            *(name for name, visible in shown.items() if visible)}}
 
-    def bild(self):
-        tafel = {"Punkte": str(self.punkte), "Levelpunkte":
-                 str(self.levelpunkte or "leer").replace("-", "minus "),
-                 "Fehlversuche": str(self.zahl_der(FEHLER)), "noch offen": str(self.rest()),
-                 "Level": str(self.level)}
-        return {"kacheln": self.kacheln, "zahlen": self.zahlen, "tafel": tafel,
-                "texte": [self.text], "knoepfe": self.knoepfe(), "dateien": self.dateien}
+    def mode_line(self, blanks=3):
+        return (f"Spielmodus:{' ' * blanks}{MODES[self.mode]}\n"
+                f"Es sind {self.gems()} Saranten auf dem Spielfeld.")
 
-    def moduszeile(self, leerzeichen=3):
-        return (f"Spielmodus:{' ' * leerzeichen}{MODI[self.modus]}\n"
-                f"Es sind {self.anzahl()} Saranten auf dem Spielfeld.")
+    def new_game(self, finished=0, points=500, mode=None):
+        """Begins a game, or goes on with one behind the level that was finished."""
+        self.mode, self.points, self.result = mode or self.mode, points, 0
+        self.text, self.level = self.mode_line(2), finished
+        return self.next_level(best=self.best)
 
-    # What happens.
+    def next_level(self, best=None):
+        self.level, self.board = self.level + 1, None
+        sound = self.repeat()
+        self.best = self.points > 13000 if best is None else best
+        return sound
 
-    def waehle_modus(self, modus):
-        self.modus = modus
-        self.text = f"Spielmodus  :  {MODI[modus]}"
-        self.dateien["sarant.ini"] = zeilen(modus)
-
-    def neues_spiel(self):
-        self.text = self.moduszeile(2)
-        self.level, self.punkte = 0, 500
-        return self.beginne_level()
-
-    def spiel_ab(self, uebersprungen, modus):
-        if modus != self.modus:
-            self.dateien["sarant.ini"] = zeilen(modus)
-        self.level, self.modus = uebersprungen, modus
-        self.punkte = uebersprungen * JE_LEVEL[modus] or 500
-        return self.beginne_level()
-
-    def lade(self, level, punkte, modus):
-        self.modus = modus
-        self.text = self.moduszeile(2)
-        self.level, self.punkte = level, punkte
-        return self.beginne_level()
-
-    def naechster_level(self):
-        self.punkte += self.levelpunkte
-        self.bester = self.punkte > self.liste()[4][1]
-        return self.beginne_level()
-
-    def beginne_level(self):
-        self.level += 1
-        self.brett = None
-        return self.beginne_spiel()
-
-    def wiederhole(self):
-        self.punkte += self.levelpunkte
-        return self.beginne_spiel()
-
-    def beginne_spiel(self):
-        """The cells that are opened and marked now are drawn; see `uebernimm`."""
-        self.phase, self.levelpunkte, self.kacheln = "spielt", 0, None
-        if self.modus == 3 and self.level <= 5:  # Nothing is opened.
+    def repeat(self):
+        """Begins the level; what is opened and marked now is drawn, see `take_over`."""
+        self.points += self.result
+        self.phase, self.result, self.tiles = "playing", 0, None
+        if self.mode == 3 and self.level <= 5:  # Nothing is opened.
             return None
-        self.text = self.moduszeile()
+        self.text = self.mode_line()
         return BLIP
 
-    def uebernimm(self, bild):
-        """Takes over what chance has drawn.
+    def take_over(self, view):
+        """Takes over what chance has drawn; a Contradiction is what the rules forbid."""
+        if WRONG in view["tiles"].values():
+            raise Contradiction("the level begins with an error")
+        if self.board is None:
+            self.board, self.numbers = Board(view["numbers"], self.gems()), view["numbers"]
+        for cell, tile in view["tiles"].items():
+            if tile != COVERED:
+                self.board.learn(cell, tile == GEM)
+        self.tiles = view["tiles"]
 
-        @exception Widerspruch the rules forbid it
-        """
-        if FEHLER in bild["kacheln"].values():
-            raise Widerspruch("Das Level beginnt mit einem Fehler")
-        if self.brett is None:
-            self.brett = Brett(bild["zahlen"], self.anzahl())
-            self.zahlen = bild["zahlen"]
-        for zelle, kachel in bild["kacheln"].items():
-            if kachel != VERDECKT:
-                self.brett.lerne(zelle, kachel == SARANT)
-        self.kacheln = bild["kacheln"]
-
-    def klicke_links(self, zelle):
-        """@pre The board knows the cell."""
-        if self.phase != "spielt" or self.kacheln[zelle] == MARKIERT:
+    def click(self, cell):
+        """A left click on a cell that the board knows."""
+        if self.phase != "playing" or self.tiles[cell] == MARKED:
             return None
-        self.text = self.moduszeile()
-        ist_sarant = self.brett.wissen[zelle]
-        self.kacheln[zelle] = SARANT if ist_sarant else FEHLER
-        if self.zahl_der(FEHLER) == 2:
-            self.phase, self.levelpunkte = "verloren", -100
+        self.text, is_gem = self.mode_line(), self.board.known[cell]
+        self.tiles[cell] = GEM if is_gem else WRONG
+        if self.count(WRONG) == 2:
+            self.phase, self.result = "lost", -100
             self.text = "Klicken Sie auf »Wiederholen«"
         elif self.rest() == 0:
-            self.phase, self.levelpunkte = "gewonnen", BONUS[self.modus]
+            self.phase, self.result = "won", BONUS[self.mode]
             self.text = "Klicken Sie auf »Nächster Level«"
             return TADA
-        return BLIP if ist_sarant else FALSCH
+        return BLIP if is_gem else ERROR
 
-    def klicke_rechts(self, zelle):
-        if self.phase == "spielt":
-            self.text = self.moduszeile()
-            getauscht = {VERDECKT: MARKIERT, MARKIERT: VERDECKT}
-            self.kacheln[zelle] = getauscht.get(self.kacheln[zelle], self.kacheln[zelle])
+    def mark(self, cell):
+        if self.phase == "playing":
+            self.text = self.mode_line()
+            swapped = {COVERED: MARKED, MARKED: COVERED}
+            self.tiles[cell] = swapped.get(self.tiles[cell], self.tiles[cell])
 
-    def speichere(self, name):
-        self.dateien[name] = zeilen(self.level, self.punkte + self.levelpunkte, self.modus)
-
-    def liste(self):
-        werte = self.dateien["sarant.txt"].decode("cp1252").split("\r\n")
-        return [[name, int(punkte)] for name, punkte in zip(werte[:5], werte[5:10])]
-
-    def platz(self):
-        return next((i for i, (_, punkte) in enumerate(self.liste()) if self.punkte > punkte), None)
-
-    def trage_ein(self, name):
-        liste = self.liste()
-        liste.insert(self.platz(), [name, self.punkte])
-        self.dateien["sarant.txt"] = liste_als_datei(liste[:5])
+    def save(self, name):
+        self.files[name] = lines(self.level, self.points + self.result, self.mode)

@@ -1,38 +1,34 @@
 #!/usr/bin/env bash
-# Checks a help page: title, language, tags, bookmarks, number of pages, embedded fonts, hyphenation, and
-# sentences.
-# usage: help_test.sh PDF TITLE MIN-MAX SENTENCE...
+# Checks a help page: title, language, tags, bookmarks, pages, embedded fonts, hyphenation, sentences.
+# usage: help_test.sh PDF TITLE MIN-MAX [SENTENCE...]
 set -euo pipefail
 export LC_ALL=C
 
-pdf=$1 titel=$2 seiten=$3
+pdf=$1 title=$2 least=${3%-*} most=${3#*-}
 shift 3
-fehler=0
-melde() { echo "$(basename "$pdf"): $*"; fehler=1; }
+failed=0
+require() { grep -qE -- "$1" <<<"$2" || { echo "$(basename "$pdf"): no $1"; failed=1; }; }
 
 info=$(pdfinfo "$pdf")
-grep -qE "^Title: +$titel\$" <<<"$info" || melde "wrong title"
-anzahl=$(awk '/^Pages:/ { print $2 }' <<<"$info")
-if [ "$anzahl" -lt "${seiten%-*}" ] || [ "$anzahl" -gt "${seiten#*-}" ]; then
-  melde "$anzahl pages"
-fi
-grep -qE '^Page size: .*A4' <<<"$info" || melde "not A4"
-grep -qa '/Lang (de)' "$pdf" || melde "no language"
-grep -qE '^Tagged: +yes' <<<"$info" || melde "no tags for screen readers"
-grep -qa '/Outlines' "$pdf" || melde "no bookmarks"
-
+for line in "Title: +$title\$" 'Page size: .*A4' 'Tagged: +yes'; do
+  require "^$line" "$info"
+done
+pages=$(awk '/^Pages:/ { print $2 }' <<<"$info")
+((pages >= least && pages <= most)) || { echo "$(basename "$pdf"): $pages pages"; failed=1; }
+objects=$(qpdf --qdf --object-streams=disable "$pdf" - | strings)
+require '/Lang \(de\)' "$objects"
+require '/Outlines' "$objects"
 # Columns from the right: object and generation, Unicode map, subset, embedded.
-schriften=$(pdffonts "$pdf" | tail -n +3)
-[ -n "$schriften" ] || melde "no fonts"
-awk '$(NF-4) != "yes" || $(NF-2) != "yes" { exit 1 }' <<<"$schriften" || melde "a font is not embedded"
+fonts=$(pdffonts "$pdf" | awk 'NR > 2 { print $(NF-4), $(NF-2) }' | sort -u)
+require '^yes yes$' "$fonts"
+[ "$(wc -l <<<"$fonts")" -eq 1 ] || { echo "$(basename "$pdf"): a font is not embedded"; failed=1; }
 
 # A word is broken with the hyphen U+2010; the rules of German come with the package hyphen-de.
-trennstrich=$'\xe2\x80\x90' geschuetzt=$'\xc2\xa0'
+hyphen=$'\xe2\x80\x90' nobreak=$'\xc2\xa0'
 text=$(pdftotext "$pdf" - | tr -s '[:space:]' ' ')
-[[ $text == *"$trennstrich "* ]] || melde "no hyphenation"
-text=${text//"$trennstrich "/}
-text=${text//"$geschuetzt"/ }
-for satz in "$@"; do
-  grep -qF -- "$satz" <<<"$text" || melde "missing: $satz"
+require "$hyphen " "$text"
+text=${text//"$hyphen "/}
+for sentence in "$@"; do
+  require "$sentence" "${text//"$nobreak"/ }"
 done
-exit "$fehler"
+exit "$failed"

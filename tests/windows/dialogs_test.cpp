@@ -71,47 +71,44 @@ TEST_F(Messages, StandInTheirPlaceAndLetTheArrowBlink) {
 
 TEST_F(Messages, TheSecondPressOfADoubleClickCountsOnlyWhereTheFirstDid) {
   Click("imgNeuesSpiel");
-  const auto Send = [&](const QString &name, Qt::MouseButton button, QEvent::Type press, int time) {
-    for (const auto type : {press, QEvent::MouseButtonRelease}) {
-      QMouseEvent event(type, {5, 5}, {5, 5}, button, button, {});
-      event.setTimestamp(static_cast<quint64>(time));
-      QApplication::sendEvent(Find(*board, name), &event);
-    }
-  };
   int cell = 1;
   while (board->LiesKachel(cell) != Kachel::Verdeckt)
     ++cell;
+  const auto Send = [&](const QString &name, QEvent::Type press, quint64 time) {
+    for (const auto type : {press, QEvent::MouseButtonRelease}) {
+      QMouseEvent event(type, {5, 5}, {5, 5}, Qt::RightButton, Qt::RightButton, {});
+      event.setTimestamp(time);
+      QApplication::sendEvent(Find(*board, name), &event);
+    }
+    return board->LiesKachel(cell);
+  };
   const QString name = "imgSar" + QString::number(cell);
-  Send(name, Qt::RightButton, QEvent::MouseButtonDblClick, 100'000);
-  EXPECT_EQ(board->LiesKachel(cell), Kachel::Verdeckt);
-  Send(name, Qt::RightButton, QEvent::MouseButtonPress, 200'000);
-  EXPECT_EQ(board->LiesKachel(cell), Kachel::Markiert);
-  Send(name, Qt::RightButton, QEvent::MouseButtonDblClick, 200'100);
-  EXPECT_EQ(board->LiesKachel(cell), Kachel::Verdeckt);
+  EXPECT_EQ(Send(name, QEvent::MouseButtonDblClick, 100'000), Kachel::Verdeckt);
+  EXPECT_EQ(Send(name, QEvent::MouseButtonPress, 200'000), Kachel::Markiert);
+  EXPECT_EQ(Send(name, QEvent::MouseButtonDblClick, 200'100), Kachel::Verdeckt);
   // A question would fail the test.
-  Send("imgNeuesSpiel", Qt::LeftButton, QEvent::MouseButtonDblClick, 300'000);
+  QTest::mouseDClick(Find(*board, "imgNeuesSpiel"), Qt::LeftButton);
 }
 
 TEST_F(Messages, AHeldKeyDoesNotCountInTheNextWindow) {
-  const auto Send = [](QEvent::Type type, quint64 time, QWidget *target) {
-    QKeyEvent event(type, Qt::Key_J, {}, "j");
-    event.setTimestamp(time);
-    QApplication::sendEvent(target, &event);
+  const auto Send = [](quint64 release, quint64 press, QWidget *target) {
+    for (const auto &[type, time] :
+         {std::pair(QEvent::KeyRelease, release), {QEvent::KeyPress, press}}) {
+      QKeyEvent event(type, Qt::Key_J, {}, "j");
+      event.setTimestamp(time);
+      QApplication::sendEvent(target, &event);
+    }
   };
   spiel.Punkte = 20000;
-  Then<frmMsgJa>([&](frmMsgJa &window) { Send(QEvent::KeyPress, 1000, &window); });
+  Then<frmMsgJa>([&](frmMsgJa &window) { Send(900, 1000, &window); });
   Then<frmBeste>([&](frmBeste &window) {
     auto *name = window.findChild<QLineEdit *>();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    for (const quint64 time : {1030U, 1060U}) {  // As an X server reports a repeat.
-      Send(QEvent::KeyRelease, time, name);
-      Send(QEvent::KeyPress, time, name);
-    }
+    for (const quint64 time : {1030U, 1060U})  // An X server reports a repeat this way.
+      Send(time, time, name);
     EXPECT_EQ(name->text(), "Spieler");
-    Send(QEvent::KeyRelease, 1090, name);
-    Send(QEvent::KeyPress, 1200, name);
-    EXPECT_EQ(name->text(), "j");
-    Press(*name, "Alt+A");
+    for (const char *key : {"J", "Alt+A"})
+      Press(*name, key);
     EXPECT_EQ(name->text(), "j");
     name->clear();
     name->insert("Łu\u0308€");

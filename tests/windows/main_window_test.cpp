@@ -1,12 +1,16 @@
 #include <QAction>
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "controls/bilder.h"
 #include "controls/zifferreihe.h"
 #include "dialogs/frmBeste.h"
 #include "dialogs/frmHintergrund.h"
+#include "persistence/modDateiHandling.h"
 #include "tests/window_fixture.h"
 
 namespace {
@@ -101,15 +105,26 @@ TEST_F(MainWindow, LetsOnlyThoseActWithoutAMouseWhomAMouseReaches) {
 }
 
 TEST_F(MainWindow, SavesUnderTheNameThatStandsInTheField) {
-  spiel.Level = 3;
-  for (const char *name : {"a b ", ":c"}) {
+  board->Zeige(Bedienung::imgSpeichern, true);
+  QDir(DataFile("")).removeRecursively();
+  const auto SaveAs = [&](const QString &name) {
     Then<QFileDialog>([name](QFileDialog &dialog) {
-      Find<QLineEdit>(dialog, "fileNameEdit")->setText(name);
-      QTest::keyClick(&dialog, Qt::Key_Return);
+      QTest::keyClicks(Find<QLineEdit>(dialog, "fileNameEdit"), name);
+      Click(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save));
     });
+  };
+  for (const char *name : {".sar", "\".sar", "Spiel \"Anna\".sar", ":Anna.sar ", "a b"}) {
+    SaveAs(name);
     Click("imgSpeichern");
-    EXPECT_EQ(ReadFile(DataFile(QString(name).trimmed() + ".sar")).left(1), "3") << name;
+    EXPECT_TRUE(QFile::exists(DataFile(MitEndung(QString(name).trimmed())))) << name;
+    EXPECT_TRUE(SpielstandVorhanden());
   }
+  SaveAs(QString(256, 'x'));
+  Then<Meldefenster>([&](Meldefenster &window) {
+    EXPECT_TRUE(Text(window, "lblTitel").endsWith("8"));
+    window.close();
+  });
+  Click("imgSpeichern");
 }
 
 }  // namespace

@@ -16,32 +16,21 @@
 
 namespace {
 
+// clang-format off
 std::vector<Meldung> Questions() {
-  return {FrageNeuesSpiel(),
-          FrageEinstellungen(),
-          FrageBeenden(),
-          FrageSucheSpielstand(),
-          FrageLaden(40, 3, "2147483647"),
-          FrageBesteneintrag(),
-          FrageEintraegeLoeschen(),
+  return {FrageNeuesSpiel(), FrageEinstellungen(), FrageBeenden(), FrageSucheSpielstand(),
+          FrageLaden(40, 3, "2147483647"), FrageBesteneintrag(), FrageEintraegeLoeschen(),
           FrageAuswahl(26, 3)};
 }
 
 std::vector<Meldung> Announcements() {
-  return {MeldungSpielBeendet(),
-          MeldungVielenDank(),
-          MeldungInfo(),
-          MeldungKeineFestplatte(),
-          MeldungOrdnerFehlgeschlagen(),
-          MeldungFalscherDateityp("stand.txt"),
-          MeldungKeinDateiname(),
-          MeldungLesefehler(8),
-          MeldungSchreibfehler(8),
-          MeldungKeinBesteneintrag(),
-          MeldungBesteNichtGelesen(8),
-          MeldungBesteNichtGespeichert(),
+  return {MeldungSpielBeendet(), MeldungVielenDank(), MeldungInfo(), MeldungKeineFestplatte(),
+          MeldungOrdnerFehlgeschlagen(), MeldungFalscherDateityp("stand.txt"),
+          MeldungKeinDateiname(), MeldungLesefehler(8), MeldungSchreibfehler(8),
+          MeldungKeinBesteneintrag(), MeldungBesteNichtGelesen(8), MeldungBesteNichtGespeichert(),
           MeldungKeineSoundkarte()};
 }
+// clang-format on
 
 /// Everything of a window lies within it, and every text within its place.
 void ExpectAllFits(const QWidget &window) {
@@ -63,17 +52,19 @@ class Screens : public WindowFixture {
   Screens() { spiel.Punkte = 99999; }
   ~Screens() override { StelleMassstab(1); }
 
-  /// Makes each window once, a message window for each message.
-  static void EachWindow(const std::function<void(QWidget &)> &action) {
+  /// Makes each window once, and a message window for each of the messages.
+  static void EachWindow(const std::vector<Meldung> &questions,
+                         const std::vector<Meldung> &announcements,
+                         const std::function<void(QWidget &)> &action) {
     frmSpielfeld mainWindow;
     WarteAufSpiel(mainWindow);
     action(*mainWindow.centralWidget());
     frmOptionen options(&mainWindow, mainWindow);
-    action(options);
-    action(mainWindow.Bestenfenster());
-    for (const Meldung &message : Questions())
+    for (QWidget *window : QList<QWidget *>{&options, &mainWindow.Bestenfenster()})
+      action(*window);
+    for (const Meldung &message : questions)
       action(*std::make_unique<frmMsgJa>(message));
-    for (const Meldung &message : Announcements())
+    for (const Meldung &message : announcements)
       action(*std::make_unique<frmMsgOk>(message));
   }
 };
@@ -110,7 +101,7 @@ QString Describe(QWidget &element) {
 
 TEST_F(Screens, AllStandsAsTheInventoryTells) {
   QStringList lines;
-  const auto Record = [&](QWidget &window) {
+  EachWindow({FrageBeenden()}, {MeldungInfo()}, [&](QWidget &window) {
     window.grab();
     const int loaded = GeladeneBilder();
     window.grab();
@@ -123,28 +114,18 @@ TEST_F(Screens, AllStandsAsTheInventoryTells) {
       if (!number.hasMatch() || number.captured(2).toInt() % 33 == 1)  // Four stand for all.
         lines << Describe(*element);
     }
-  };
-  frmSpielfeld mainWindow;
-  Record(*mainWindow.centralWidget());
-  for (const QAction *entry : mainWindow.findChildren<QAction *>())
-    lines << QString("»%1« %2 %3")
-                 .arg(entry->text(), entry->objectName(), entry->shortcut().toString())
-                 .trimmed();
-  frmOptionen options(&mainWindow, mainWindow);
-  frmMsgJa question(FrageBeenden());
-  frmMsgOk announcement(MeldungInfo());
-  for (QWidget *window :
-       QList<QWidget *>{&options, &mainWindow.Bestenfenster(), &question, &announcement})
-    Record(*window);
-  lines << "";
-  for (int k = 0; k <= kLeereZiffer; ++k)
-    lines << QStringList{Size(frmZahlen::imgZahl(k)),
-                         Size(frmDigital::imgDiggi(k)),
-                         Size(frmDigital::imgRot(k)),
-                         Size(Kachelbild(static_cast<Kachel>(k % 4))),
-                         Size(frmBilder::imgPfeil(k % 2)),
-                         Size(frmBilder::imgPfeilhoch(k % 2))}
-                 .join(" | ");
+    for (const QAction *entry : window.window()->findChildren<QAction *>())
+      lines << QString("»%1« %2 %3")
+                   .arg(entry->text(), entry->objectName(), entry->shortcut().toString())
+                   .trimmed();
+  });
+  for (int k = 0; k <= kLeereZiffer; ++k) {
+    lines << "";
+    for (const QString &picture : {frmZahlen::imgZahl(k), frmDigital::imgDiggi(k),
+                                   frmDigital::imgRot(k), Kachelbild(static_cast<Kachel>(k % 4)),
+                                   frmBilder::imgPfeil(k % 2), frmBilder::imgPfeilhoch(k % 2)})
+      lines.back() += " | " + Size(picture);
+  }
   for (const auto &messages : {Questions(), Announcements()})
     for (const Meldung &message : messages)
       lines << QString("%1 | %2 | %3 | %4")
@@ -170,7 +151,7 @@ TEST_F(Screens, EverythingFitsAtEachScale) {
   for (const double scale : {0.55, 0.85, 2.45}) {
     SCOPED_TRACE(scale);
     StelleMassstab(scale);
-    EachWindow(ExpectAllFits);
+    EachWindow(Questions(), Announcements(), ExpectAllFits);
   }
 }
 

@@ -1,0 +1,174 @@
+"""Drives the program under test: accessibility tree, mouse and keyboard. Knows no rule."""
+
+import os
+import re
+import subprocess
+import time
+from pathlib import Path
+
+import pyatspi
+from gi.repository import GLib
+
+STAGE = Path(os.environ["STAGE"])
+DATA = Path(os.environ["XDG_DATA_HOME"], "nachtkammern")
+ROOT = Path(__file__).resolve().parents[2]
+VERSION = re.search(r"project\(glanzgrube VERSION ([\d.]+)", (ROOT / "CMakeLists.txt").read_text())[1]
+TITLE = f"Glanzgrube  Vers.: {VERSION}"
+CELL = re.compile(r"Zeile (\d+), Spalte (\d+): (\w+)$")
+NUMBER = re.compile(r"(Zeile|Spalte) (\d+), Zahl (\d+): (\d+)$")
+PANEL = re.compile(r"(Punkte|Levelpunkte|Fehlversuche|noch offen|Level): ([\w ]+)$")
+BUTTONS = pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_RADIO_BUTTON, pyatspi.ROLE_CHECK_BOX
+
+
+class Deviation(Exception):
+    """What is seen or heard differs from what the rules say."""
+
+
+def wait_for(condition, what, patience=20.0):
+    """Polls until the condition gives a true value, and returns that value."""
+    end = time.monotonic() + patience
+    while time.monotonic() < end:
+        try:
+            if value := condition():
+                return value
+        except (GLib.GError, NotImplementedError):
+            pass  # A control has gone while it was looked at.
+        time.sleep(0.02)
+    raise Deviation(f"waited in vain: {what() if callable(what) else what}")
+
+
+def companion(path, name):
+    """A file that comes with the program: in its share folder, or beside it."""
+    folder = Path(path).parent / "../share/glanzgrube"
+    return (folder if folder.is_dir() else Path(path).parent) / name
+
+
+def read_files():
+    return {file.name: file.read_bytes() for file in DATA.glob("*") if file.is_file()}
+
+
+def has(element, state=pyatspi.STATE_SHOWING):
+    return element.getState().contains(state)
+
+
+def centre(element):
+    place = element.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    return place.x + place.width // 2, place.y + place.height // 2
+
+
+def walk(element, board=False):
+    """The element and everything below it; the cells and numbers of the board only if asked for."""
+    yield element
+    if board or element.name != "Spielfeld":
+        for child in filter(None, element):
+            yield from walk(child, board)
+
+
+def labels(window):
+    return [e.name for e in walk(window) if e.getRole() == pyatspi.ROLE_LABEL]
+
+
+def buttons(window):
+    return [e for e in walk(window) if e.getRole() in BUTTONS]
+
+
+def captions(window):
+    """The words on all buttons, with an asterisk behind those that are chosen."""
+    return {e.name + "*" * has(e, pyatspi.STATE_CHECKED) for e in buttons(window)}
+
+
+def xdotool(*words):
+    subprocess.run(["xdotool", *map(str, words)], check=True, stdout=subprocess.DEVNULL)
+
+
+class Mouse:
+    """One hand on the mouse, the other on the keyboard."""
+
+    def click(self, element, button=1):
+        xdotool("mousemove", *centre(element), "mousedown", button, "mouseup", button)
+
+    def key(self, *names):
+        xdotool("key", "--delay", "40", *names)
+
+
+class Bus:
+    """Presses controls over the accessibility bus, on any screen."""
+
+    def click(self, element, button=1):
+        actions = element.queryAction()  # "Press", or "ShowMenu", or both in this order.
+        actions.doAction(0 if button == 1 else actions.nActions - 1)
+
+    def key(self, *names):
+        pass
+
+
+class Program:
+    """One run of the game."""
+
+    def __init__(self, path, **environment):
+        with open(STAGE / "stderr", "w") as stderr:
+            self.process = subprocess.Popen([path], env=os.environ | environment, stderr=stderr)
+        self.app = wait_for(lambda: next((app for app in filter(None, pyatspi.Registry.getDesktop(0))
+                                          if app.get_process_id() == self.process.pid), None),
+                            "program on the bus", 60)
+        # The names of the cells change with every step: nothing may be remembered here.
+        self.app.set_cache_mask(pyatspi.Atspi.Cache.NONE)
+        self.board = []
+
+    def dialogs(self, role=pyatspi.ROLE_DIALOG):
+        return [w for w in self.app if w and w.getRole() == role and has(w)]
+
+    def window(self, title, role=pyatspi.ROLE_DIALOG):
+        """The window of this name and role, or None if it is not shown."""
+        return next((w for w in self.dialogs(role) if w.name == title), None)
+
+    def main_window(self):
+        return wait_for(lambda: self.window(TITLE, pyatspi.ROLE_FRAME), "main window")
+
+    def button(self, name, title=None):
+        """A button or a menu entry by the words on it, in the main window or another one."""
+        def find():
+            window = self.window(title) if title else self.main_window()
+            return window and next((e for e in walk(window) if e.name == name and has(e)), None)
+        return wait_for(find, f"button {name}")
+
+    def cell(self, cell):
+        return self.board[10 * (cell[0] - 1) + cell[1] - 1]
+
+    def read(self, anew=False):
+        """Everything that the main window shows, in the form of the model's view."""
+        area = self.main_window()[0]
+        if anew or len(self.board) != area[0].childCount:  # Other numbers may be visible now.
+            self.board = list(area[0])
+        view = {"tiles": {}, "numbers": {}, "panel": {}, "texts": [], "buttons": captions(area)}
+        for name in [element.name for element in self.board] + labels(area):
+            if hit := CELL.match(name):
+                view["tiles"][int(hit[1]), int(hit[2])] = hit[3]
+            elif hit := NUMBER.match(name):
+                line = view["numbers"].setdefault((hit[1], int(hit[2])), {})
+                line[int(hit[3])] = int(hit[4])
+            elif hit := PANEL.match(name):
+                view["panel"][hit[1]] = hit[2]
+            else:
+                view["texts"].append(name)
+        return view
+
+    def rest(self):
+        """The main window and the names of the others, as soon as two looks see the same."""
+        def look():
+            return self.read(anew=True), [window.name for window in self.dialogs()]
+        return wait_for(lambda: (view := look()) == look() and view, "rest")
+
+    def end(self):
+        """The process must have ended well, said nothing, and written into its own folder only."""
+        result, lines = self.process.wait(20), (STAGE / "stderr").read_text().splitlines()
+        # The table of Qt's own file dialog complains of what it tells the bus.
+        said = [line for line in lines if not line.startswith("QAccessibleTable::child")]
+        said += map(str, Path(os.environ["HOME"], ".config").rglob("Qt*"))
+        if result or said:
+            raise Deviation("\n".join([f"ended with {result}", *said]))
+
+    def kill(self):
+        if self.process.poll() is None:
+            self.process.kill()
+            self.process.wait()
