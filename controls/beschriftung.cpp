@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr double kKleinsteSchrift = 0.85;  ///< Of the full size; smaller letters are hard to read.
+constexpr double kKleinsteSchrift = 0.85;  ///< Part of the full size that is still easy to read.
 
 }  // namespace
 
@@ -23,7 +23,7 @@ QPalette Steinpalette() {
 }
 
 QFont Schrift(double punkt, bool fett) {
-  QFont schrift(QStringList{"Arial", "Liberation Sans"});  // Letters of the same widths.
+  QFont schrift(QStringList{"Arial", "Liberation Sans"});  // Both have the same letter widths.
   schrift.setPixelSize(static_cast<int>(Massstab() * punkt * 96 / 72));
   schrift.setBold(fett);
   return schrift;

@@ -1,5 +1,4 @@
-/// @file
-/// What a window has besides pictures: texts, their font and colours, and straight rules.
+// What a window shows besides pictures: texts, their font and colours, and straight lines.
 #pragma once
 
 #include <QFont>
@@ -17,11 +16,11 @@ inline constexpr QRgb kHellgrau = 0xffd8dce4;
 inline constexpr QRgb kMagenta = 0xffd000d0;
 inline constexpr QRgb kPurpur = 0xffc000c0;
 
-/// The colours of everything that the game does not paint itself: those of its stone.
+/// The colours of menus, text boxes and file dialogs, which the game does not paint itself.
 QPalette Steinpalette();
 
-/// A font of the game, whatever the desktop has chosen. @param punkt   points at 96 dpi and full
-/// scale, see Massstab().
+/// The font of the game, independent of the desktop's settings.
+/// @param punkt   points at 96 dpi and scale factor 1.
 QFont Schrift(double punkt, bool fett);
 
 /// One entry of a window's table of texts.
@@ -33,12 +32,12 @@ struct Texteintrag {
   QRgb farbe;
   const char *text = "";
   Qt::Alignment ausrichtung = Qt::AlignHCenter | Qt::AlignTop;
-  bool umbruch = false;  ///< Lines that are too long continue on the next one.
+  bool umbruch = false;  ///< Long lines are wrapped.
 };
 
-/// A transparent label of plain text that always fits its place. Font hinting changes text widths
-/// with the scale factor, so a text that is too large gets a font up to 15 % smaller. A line that
-/// is still too long, such as the path of a folder, loses its middle.
+/// A transparent label whose plain text always fits into it. Font hinting changes text widths with
+/// the scale factor, so a text that is too large gets a font up to 15 % smaller. A text that is
+/// still too large, such as a long path, gets "…" in the middle of its lines.
 class Beschriftung : public QLabel {
   Q_OBJECT
 
@@ -51,14 +50,13 @@ class Beschriftung : public QLabel {
 
  private:
   bool Passt(const QString &text) const;
-  /// The text with line breaks in words that are wider than the label; QLabel wraps between words.
+  /// Adds line breaks in words that are wider than the label. QLabel wraps only between words.
   QString Umbrochen(const QString &text) const;
-  /// The text with the middle of each line left out that is wider. @param breite   pixels.
+  /// Replaces the middle of each line that is too wide by "…". @param breite   pixels.
   QString Gekuerzt(const QString &text, int breite) const;
 
-  QFont schrift_;  ///< At its full size.
+  QFont schrift_;  ///< At full size.
 };
 
-/// Makes a straight rule.
-/// @param lage   from its left or upper end; the other extent is 0. @param dicke in pixels.
+/// Makes a straight line. @param lage   width or height is 0. @param dicke   pixels.
 void NeueLinie(QWidget *eltern, const Twips &lage, int dicke, QRgb farbe);

@@ -14,7 +14,7 @@
 #include "controls/wiederholung.h"
 
 void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild) {
-  // Undoing the painter's scale leaves a mere translation, for which Qt copies pixel by pixel.
+  // Without the painter's scale Qt copies the pixels one to one.
   const double geraetepixel = bild.devicePixelRatio();
   const QTransform vorher = maler.worldTransform();
   maler.translate(ort);
@@ -34,19 +34,12 @@ void ZeichneRing(QPainter &maler, const QPixmap &form, double breite) {
     stift.drawPixmap(ganz, form, QRectF(form.rect()));
     stift.setCompositionMode(QPainter::CompositionMode_SourceIn);
     stift.fillRect(ganz, farbe);
-    // What is left of the form is what lies outside of the same form made smaller.
+    // Cutting the same shape, made smaller, out of the shape leaves a ring.
     stift.setCompositionMode(QPainter::CompositionMode_DestinationOut);
     stift.setRenderHint(QPainter::SmoothPixmapTransform);
     stift.drawPixmap(ganz.adjusted(dicke, dicke, -dicke, -dicke), form, QRectF(form.rect()));
     stift.end();
     ZeichneGenau(maler, {0, 0}, ring);
-  }
-}
-
-void MeldeNeuenNamen(QWidget *element) {
-  if (QAccessible::isActive()) {
-    QAccessibleEvent ereignis(element, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&ereignis);
   }
 }
 
@@ -82,10 +75,6 @@ void Bild::SetzeKlick(std::function<void()> klick) {
   setCursor(Handzeiger());
 }
 
-void Bild::SetzeDruck(std::function<void(Qt::MouseButton)> druck) {
-  druck_ = std::move(druck);
-}
-
 void Bild::Bediene(Qt::MouseButton taste) {
   if (!IstErreichbar())
     return;
@@ -119,11 +108,6 @@ void Bild::SetzeGedrueckt(bool gedrueckt) {
   }
 }
 
-void Bild::Aktualisiere() {
-  update();
-  MeldeNeuenNamen(this);
-}
-
 void Bild::paintEvent(QPaintEvent *ereignis) {
   Q_UNUSED(ereignis)
   QPainter maler(this);
@@ -141,7 +125,7 @@ void Bild::mousePressEvent(QMouseEvent *ereignis) {
 
 void Bild::mouseDoubleClickEvent(QMouseEvent *ereignis) {
   ereignis->setAccepted(IstBedienbar());
-  // The first press may have gone to a window that has closed, or to a button that has gone.
+  // The first press may have closed a window or hidden a button above this control.
   const quint64 abstand = ereignis->timestamp() - gedruecktUm_;
   if (druck_ &&
       abstand <= static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval()))
@@ -164,7 +148,7 @@ void Bild::keyPressEvent(QKeyEvent *ereignis) {
 }
 
 bool Bild::event(QEvent *ereignis) {
-  // A window or a menu that opened meanwhile takes the release, which then never comes here.
+  // If a window or a menu opens during the press, the release is not delivered to this control.
   const auto verloren = {QEvent::WindowBlocked, QEvent::WindowDeactivate, QEvent::Leave};
   if (std::ranges::find(verloren, ereignis->type()) != verloren.end())
     SetzeGedrueckt(false);

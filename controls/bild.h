@@ -1,5 +1,3 @@
-/// @file
-/// The picture control: buttons, tiles, clue places, arrows and, without a picture, hot spots.
 #pragma once
 
 #include <QAccessible>
@@ -11,29 +9,27 @@
 
 class QPainter;
 
-/// Draws a picture with its top left corner at a place in logical pixels: device pixels are copied,
-/// never scaled.
+/// Draws a picture without scaling its device pixels. @param ort   top left corner, logical pixels.
 void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild);
 
-/// Draws the ring of the focus along the inner edge of a form at (0,0).
-/// @param form a picture whose opaque part is the form, of the resolution of the device
-/// @param breite of its blue part; a thin white line within keeps it visible on every ground
+/// Draws the focus ring along the inner edge of a shape at (0,0).
+/// @param form   a picture in device pixels; its opaque part is the shape.
+/// @param breite of the blue part. A thin white line inside makes it visible on dark pictures.
 void ZeichneRing(QPainter &maler, const QPixmap &form, double breite);
-
-/// Tells assistive technology that the name of a control has changed.
-void MeldeNeuenNamen(QWidget *element);
 
 /// One entry of a window's table of pictures.
 struct Bildeintrag {
   const char *name;     ///< The control's name.
-  Twips lage;           ///< Where it stands; a picture is never scaled to this size.
-  const char *bild;     ///< Picture of the catalogue; empty for a hot spot.
+  Twips lage;           ///< The picture is not scaled to this size.
+  const char *bild;     ///< Picture of the catalogue; empty for a clickable area.
   const char *tooltip;  ///< Empty for none.
   const char *ansage;   ///< What a screen reader says.
   QAccessible::Role rolle = QAccessible::Button;
-  const char *gedrueckt = "";  ///< Picture while a mouse button is held on it, if another.
+  const char *gedrueckt = "";  ///< Picture while a mouse button is held down; empty: the same.
 };
 
+/// A control that shows a picture: button, tile, clue place, arrow or label. Without a picture it
+/// is a clickable area of the background.
 class Bild : public QWidget {
   Q_OBJECT
 
@@ -45,39 +41,35 @@ class Bild : public QWidget {
   /// The name of the picture that is shown.
   virtual QString Bildname() const;
 
-  /// Decodes its pictures, so that their first look costs nothing.
+  /// Decodes the pictures of the control before they are needed.
   void LadeVor() const;
 
-  /// What a left click does; gives the control the hand pointer.
+  /// Sets the handler of a left click and the hand pointer.
   void SetzeKlick(std::function<void()> klick);
-  /// What the press of any mouse button does.
-  void SetzeDruck(std::function<void(Qt::MouseButton)> druck);
+  /// Sets the handler for the press of any mouse button.
+  void SetzeDruck(std::function<void(Qt::MouseButton)> druck) { druck_ = std::move(druck); }
 
-  virtual QString Ansage() const { return accessibleName(); }
   QAccessible::Role Rolle() const { return rolle_; }
   bool IstBedienbar() const { return klick_ || druck_; }
-  /// The right mouse button has a meaning of its own.
+  /// True if the right mouse button acts, too.
   bool IstZweitastig() const { return static_cast<bool>(druck_); }
   bool IstGewaehlt() const { return gewaehlt_; }
   void SetzeGewaehlt(bool gewaehlt) { gewaehlt_ = gewaehlt; }
 
-  /// Presses and releases a mouse button on the control, for those who have no mouse. Does nothing
-  /// where a mouse could not: on a control that is hidden or behind a window that waits.
+  /// Presses and releases a mouse button on the control, for keyboard and assistive technology.
+  /// Does nothing if a mouse could not: the control is hidden or disabled, or a modal window or a
+  /// menu is open.
   void Bediene(Qt::MouseButton taste);
 
  protected:
   void paintEvent(QPaintEvent *ereignis) override;
   void mousePressEvent(QMouseEvent *ereignis) override;
-  /// The second press of a double click counts only on a control that takes presses, and only if
-  /// the first press was on this control, too.
+  /// The second press of a double click counts if the control takes presses and got the first one.
   void mouseDoubleClickEvent(QMouseEvent *ereignis) override;
   void mouseReleaseEvent(QMouseEvent *ereignis) override;
-  /// Space presses the control that has the focus, Shift+Space with the right mouse button.
+  /// Space acts as the left mouse button on the focused control, Shift+Space as the right one.
   void keyPressEvent(QKeyEvent *ereignis) override;
   bool event(QEvent *ereignis) override;
-
-  /// Paints anew what has another value, and so another name.
-  void Aktualisiere();
 
  private:
   bool IstErreichbar() const;
@@ -86,8 +78,8 @@ class Bild : public QWidget {
   void SetzeGedrueckt(bool gedrueckt);
 
   QString bild_;
-  QString gedruecktesBild_;  ///< Empty if a press does not show.
-  bool gedrueckt_ = false;   ///< A mouse button went down here and is still held.
+  QString gedruecktesBild_;  ///< Empty if a press changes nothing.
+  bool gedrueckt_ = false;   ///< A mouse button was pressed here and is still down.
   quint64 gedruecktUm_ = 0;  ///< Time of the last press, in milliseconds.
   std::function<void()> klick_;
   std::function<void(Qt::MouseButton)> druck_;

@@ -29,7 +29,7 @@ QString Ressource(const QString &name, int aufloesung) {
   return QFile::exists(stamm + ".png") ? stamm + ".png" : stamm + ".jpg";
 }
 
-/// The smallest rendering of at least this resolution, or else the largest.
+/// The lowest resolution that is at least the given one, or else the highest that exists.
 int Aufloesung(const QString &name, double mindestens) {
   int aufloesung = std::clamp(static_cast<int>(std::ceil(mindestens)), 1, kHoechsteAufloesung);
   while (aufloesung > 1 && !QFile::exists(Ressource(name, aufloesung)))
@@ -37,8 +37,7 @@ int Aufloesung(const QString &name, double mindestens) {
   return aufloesung;
 }
 
-/// The picture as rendered, or scaled down from the next larger rendering if the scale is not a
-/// whole number.
+/// Decodes the rendering of the next whole scale factor and scales it down if necessary.
 QPixmap Lade(const QString &name, double geraetepixel) {
   ++katalog.geladen;
   const double vergroesserung = geraetepixel * Massstab();
@@ -92,8 +91,8 @@ QCursor Handzeiger() {
 }
 
 QString Kachelbild(Kachel kachel) {
-  constexpr std::array kNamen{"platte1", "platte2", "platte0", "sarant"};  // As `Kachel` counts.
-  return kNamen.at(static_cast<std::size_t>(kachel));
+  constexpr std::array kNamen{"platte1", "platte2", "platte0", "sarant"};  // In order of `Kachel`.
+  return Element(kNamen, kachel);
 }
 QString frmBilder::imgPfeil(int phase) {
   return phase == kKeinPfeil ? QString() : Reihenbild("pfeil", phase);

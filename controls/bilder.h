@@ -1,6 +1,5 @@
-/// @file
-/// The picture catalogue. A picture is decoded when it is first asked for at a device pixel ratio,
-/// and shared from then on.
+// The picture catalogue. It decodes a picture at the first request for a device pixel ratio and
+// then keeps it.
 #pragma once
 
 #include <QCursor>
@@ -13,29 +12,29 @@
 /// @param geraetepixel   device pixel ratio. @return null if the name is empty.
 QPixmap Katalogbild(const QString &name, double geraetepixel);
 
-/// Decodes the pictures of tiles, numbers, digits and arrows, so that no move decodes one.
+/// Decodes the pictures of tiles, numbers, digits and arrows before the first move needs them.
 void LadeSpielbilder(double geraetepixel);
 
-/// The number of pictures decoded since the process began.
+/// The number of pictures decoded since the start of the process.
 int GeladeneBilder();
 
-/// A background that will be stretched. @param ziel   size in device pixels. @return the smallest
-/// rendering that is enlarged at most twice, or else the largest.
+/// A background picture for stretching: the smallest rendering that is enlarged at most twice, or
+/// else the largest. @param ziel   size in device pixels.
 QPixmap Streckbild(const QString &name, const QSizeF &ziel);
 
-/// The mouse pointer of every clickable picture.
+/// The mouse pointer of clickable pictures.
 QCursor Handzeiger();
 
-// Names of pictures that change in play.
+// Names of the pictures that change during a game.
 QString Kachelbild(Kachel kachel);
 namespace frmBilder {
 QString imgPfeil(int phase);      ///< Points left. 0 yellow, 1 red, `kKeinPfeil` no picture.
-QString imgPfeilhoch(int phase);  ///< The same, pointing up.
+QString imgPfeilhoch(int phase);  ///< Points up, same phases.
 }  // namespace frmBilder
 namespace frmZahlen {
 QString imgZahl(int zahl);  ///< A clue number, 0 (empty) to 10.
 }
 namespace frmDigital {
 QString imgDiggi(int ziffer);  ///< A green digit, or `kLeereZiffer`.
-QString imgRot(int ziffer);    ///< The same in red.
+QString imgRot(int ziffer);    ///< A red digit, or `kLeereZiffer`.
 }  // namespace frmDigital

@@ -1,8 +1,9 @@
-/// @file
-/// Measures: all positions in the tables of the windows are twips, 15 to the pixel.
+// Positions and sizes. The tables of the windows are in twips, 15 to a pixel.
 #pragma once
 
 #include <QRect>
+
+class QWidget;
 
 /// A position in twips, relative to the parent's client area.
 struct Twips {
@@ -12,12 +13,15 @@ struct Twips {
   int height = 0;
 };
 
-/// The size of every window and picture as a part of what is told; 1 at the start.
+/// Scale factor of all windows and pictures; 1, the size given in the tables, at the start.
 double Massstab();
-/// Must be called before the first window or picture is made. @param faktor above 0.
+/// Call it before the first window or picture is made. @param faktor   above 0.
 void StelleMassstab(double faktor);
 
-/// The pixels of a length, rounded to the nearest.
+/// Converts to logical pixels and rounds.
 int Pixel(int twips);
-/// The rectangle of a position in pixels.
 QRect Rechteck(const Twips &lage);
+
+/// Keeps the size of a window in logical pixels when it moves to a screen with another device pixel
+/// ratio. Without this, the X server keeps the limits that Qt has set in device pixels.
+void BehalteGroesse(QWidget *fenster);

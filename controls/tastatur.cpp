@@ -15,30 +15,27 @@ void ErlaubeTab(QWidget *fenster) {
   }
 }
 
-Tastatur::Tastatur(QWidget *flaeche, std::vector<QWidget *> zellen,
+Tastatur::Tastatur(QWidget *flaeche, QList<QWidget *> zellen,
                    std::function<QString(bool, int)> zahlen)
     : flaeche_(flaeche), zellen_(std::move(zellen)), zahlen_(std::move(zahlen)) {}
 
-std::vector<QWidget *> Tastatur::Elemente(int bereich) const {
-  if (bereich == kFeld)
+QList<QWidget *> Tastatur::Elemente() const {
+  if (bereich_ == kFeld)
     return zellen_;
-  std::vector<QWidget *> elemente;
-  for (QWidget *element : flaeche_->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
-    const auto *bild = qobject_cast<Bild *>(element);
-    const bool passt = bereich == kKnoepfe ? bild && bild->IstBedienbar()
-                                           : qobject_cast<Zifferreihe *>(element) != nullptr;
-    if (passt && !element->isHidden())
-      elemente.push_back(element);
-  }
-  const auto lage = [](const QWidget *e) { return std::pair(e->y(), e->x()); };
-  std::sort(elemente.begin(), elemente.end(),
-            [lage](const QWidget *a, const QWidget *b) { return lage(a) < lage(b); });
+  QList<QWidget *> elemente = flaeche_->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+  elemente.removeIf([this](const QWidget *element) {
+    const auto *bild = qobject_cast<const Bild *>(element);
+    const bool passt = bereich_ == kKnoepfe ? bild && bild->IstBedienbar()
+                                            : qobject_cast<const Zifferreihe *>(element) != nullptr;
+    return !passt || element->isHidden();
+  });
+  std::ranges::sort(elemente, {}, [](const QWidget *e) { return std::pair(e->y(), e->x()); });
   return elemente;
 }
 
 QWidget *Tastatur::Aktuelles() const {
-  const auto elemente = Elemente(bereich_);
-  return elemente.at(std::min(stelle_.at(static_cast<std::size_t>(bereich_)), elemente.size() - 1));
+  const auto elemente = Elemente();
+  return elemente.at(std::min(Element(stelle_, bereich_), elemente.size() - 1));
 }
 
 bool Tastatur::WechsleBereich(bool vorwaerts) {
@@ -47,7 +44,7 @@ bool Tastatur::WechsleBereich(bool vorwaerts) {
   Aktuelles()->setAccessibleDescription({});
   const QWidget *fokus = flaeche_->window()->focusWidget();
   if (fokus && fokus->isHidden())
-    stelle_.at(static_cast<std::size_t>(bereich_)) = 0;
+    Element(stelle_, bereich_) = 0;
   else
     bereich_ = (bereich_ + (vorwaerts ? 1 : kBereiche - 1)) % kBereiche;
   Aktuelles()->setFocus();
@@ -55,14 +52,14 @@ bool Tastatur::WechsleBereich(bool vorwaerts) {
 }
 
 void Tastatur::Bewege(int schritt) {
-  const auto elemente = Elemente(bereich_);
-  std::size_t &stelle = stelle_.at(static_cast<std::size_t>(bereich_));
-  const auto ziel = static_cast<int>(std::min(stelle, elemente.size() - 1)) + schritt;
-  const bool zeilenende = bereich_ == kFeld && std::abs(schritt) == 1 &&
-                          ziel / kLinie != static_cast<int>(stelle) / kLinie;
-  if (ziel < 0 || ziel >= static_cast<int>(elemente.size()) || zeilenende)
+  const qsizetype anzahl = Elemente().size();
+  qsizetype &stelle = Element(stelle_, bereich_);
+  const qsizetype ziel = std::min(stelle, anzahl - 1) + schritt;
+  const bool andereZeile =
+      bereich_ == kFeld && std::abs(schritt) == 1 && ziel / kLinie != stelle / kLinie;
+  if (ziel < 0 || ziel >= anzahl || andereZeile)
     return;
-  stelle = static_cast<std::size_t>(ziel);
+  stelle = ziel;
   Aktuelles()->setFocus();
 }
 
@@ -75,7 +72,7 @@ void Tastatur::LiesZahlen(bool spalte) const {
 bool Tastatur::Druecke(const QKeyEvent &taste) {
   if (!QAccessible::isActive() || !flaeche_->isAncestorOf(flaeche_->window()->focusWidget()))
     return false;
-  Aktuelles()->setAccessibleDescription({});  // The numbers read last.
+  Aktuelles()->setAccessibleDescription({});  // Removes the numbers that were read last.
   if (taste.modifiers() & (Qt::ControlModifier | Qt::AltModifier))
     return false;
   const int abwaerts = bereich_ == kFeld ? kLinie : 1;

@@ -1,6 +1,3 @@
-/// @file
-/// A choice of one among several faces. Each face has a normal look that takes a click, and a
-/// chosen look at the same place that takes none; exactly one of the two is visible.
 #pragma once
 
 #include <QWidget>
@@ -11,19 +8,22 @@
 
 class Bild;
 
-/// What the faces of a group have in common.
+/// What the options of a group have in common.
 struct Wahlart {
-  const char *name;         ///< Stem of the control names: `imgModus`, `imgModusWahl`.
-  const char *bild;         ///< Stem of the picture names: `modus`, `modusWahl`.
-  int ersterIndex;          ///< Index of the first face in its control array.
-  const char *tooltip;      ///< Of the normal look.
-  const char *tooltipWahl;  ///< Of the chosen look.
+  const char *name;         ///< Prefix of the control names: `imgModus`, `imgModusWahl`.
+  const char *bild;         ///< Prefix of the picture names: `modus`, `modusWahl`.
+  int ersterIndex;          ///< Index of the first option.
+  const char *tooltip;      ///< Of the normal picture.
+  const char *tooltipWahl;  ///< Of the selected picture.
 };
 
-/// The modes, which the main window and the options offer alike.
+/// The choice of the mode, in the main window and in the options window.
 inline constexpr Wahlart kModuswahl{"imgModus", "modus", 1, "Spielmodus wählen",
                                     "Aktueller Spielmodus"};
 
+/// A group of options of which at most one is selected, like radio buttons. Each option has two
+/// pictures at the same place, of which one is visible: a normal one that takes a click, and one
+/// for the selected option.
 class Wahlgruppe {
  public:
   struct Wahleintrag {
@@ -31,11 +31,11 @@ class Wahlgruppe {
     const char *ansage;
   };
 
-  /// @param klick   is given the index of the clicked face, counted as in the control array.
+  /// @param klick   is called with the index of the clicked option.
   Wahlgruppe(QWidget *eltern, const Wahlart &art, const std::vector<Wahleintrag> &eintraege,
              const std::function<void(int)> &klick);
 
-  /// Gives one face the chosen look and all others the normal one.
+  /// Shows one option as selected. Also shows the group again after Verberge().
   void Waehle(int index);
   void Verberge();
 

@@ -8,23 +8,23 @@
 
 namespace {
 
-/// What is known of a key. Times are those of the events, in milliseconds; 0: none yet.
+/// State of a key. Times are event timestamps in milliseconds; 0: none yet.
 struct Taste {
   quint64 gedrueckt = 0;
   quint64 losgelassen = 0;
-  bool wiederholt = false;    ///< The latest press was a repeat.
-  QPointer<QWindow> fenster;  ///< Had the focus at the first press.
+  bool wiederholt = false;    ///< The last press was a repeat.
+  QPointer<QWindow> fenster;  ///< Window with the focus at the first press.
 };
 
 std::map<int, Taste> tasten;  ///< By `QKeyEvent::key()`.
 
-/// Judges a press once; Qt delivers the same press to several objects.
+/// Updates the state once for each press. Qt delivers the same press to several objects.
 const Taste &Beurteile(const QKeyEvent &druck) {
   Taste &taste = tasten[druck.key()];
   const quint64 zeit = druck.timestamp();
   if (zeit == 0 || zeit != taste.gedrueckt) {
-    // An X server reports a repeat as a release and a press with the same time. Qt sets the
-    // auto-repeat flag only if it has read both from the connection by then.
+    // An X server reports a repeat as a release and a press with the same timestamp. Qt sets the
+    // auto-repeat flag only if it reads both at once.
     taste.wiederholt = druck.isAutoRepeat() || (zeit != 0 && zeit == taste.losgelassen);
     taste.gedrueckt = zeit;
     if (!taste.wiederholt)
@@ -54,6 +54,6 @@ bool Tastenwache::eventFilter(QObject *ziel, QEvent *ereignis) {
     return false;
   if (art == QEvent::KeyPress)
     return taste.fenster != QGuiApplication::focusWindow();
-  ereignis->accept();  // An accepted override is no shortcut; it arrives as a key press.
+  ereignis->accept();  // Then the key triggers no shortcut and arrives as a normal key press.
   return true;
 }

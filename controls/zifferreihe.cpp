@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr Twips kPlatz{0, 0, 210, 420};  // Of a digit.
+constexpr Twips kPlatz{0, 0, 210, 420};  // Size of a digit.
 
 }  // namespace
 
@@ -17,16 +17,17 @@ Zifferreihe::Zifferreihe(QWidget *eltern, const Twips &ecke, int stellen, const 
                          const QString &rot)
     : QWidget(eltern), ansage_(ansage), rot_(rot), ziffern_(static_cast<std::size_t>(stellen)) {
   setGeometry(Rechteck({ecke.left, ecke.top, stellen * kPlatz.width, kPlatz.height}));
+  AktualisiereName();
 }
 
 void Zifferreihe::SetzeZiffer(int stelle, Ziffernfarbe farbe, int ziffer) {
-  Ziffer &platz = ziffern_.at(static_cast<std::size_t>(stelle));
+  Ziffer &platz = Element(ziffern_, stelle);
   const Ziffer neu{farbe, ziffer};
   if (platz == neu)
     return;
   platz = neu;
   update();
-  MeldeNeuenNamen(this);
+  AktualisiereName();
 }
 
 void Zifferreihe::ZeigeText(const QString &ziffern) {
@@ -46,12 +47,10 @@ QString Zifferreihe::Gezeigt() const {
   return text;
 }
 
-QString Zifferreihe::Ansage() const {
+void Zifferreihe::AktualisiereName() {
   const QString gezeigt = Gezeigt();
-  if (gezeigt.isEmpty())
-    return ansage_ + ": leer";
   const bool istRot = ziffern_.front().farbe == Ziffernfarbe::Rot;
-  return ansage_ + ": " + (istRot ? rot_ : "") + gezeigt;
+  setAccessibleName(ansage_ + ": " + (gezeigt.isEmpty() ? "leer" : (istRot ? rot_ : "") + gezeigt));
 }
 
 void Zifferreihe::paintEvent(QPaintEvent *ereignis) {

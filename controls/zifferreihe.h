@@ -1,5 +1,3 @@
-/// @file
-/// A row of digit pictures: the rows of the panel and of the best list.
 #pragma once
 
 #include <QString>
@@ -9,29 +7,32 @@
 #include "controls/masse.h"
 #include "core/ansicht.h"
 
+/// A row of digit pictures, as in the panel and in the best list.
 class Zifferreihe : public QWidget {
   Q_OBJECT
 
  public:
-  /// @param ecke   left and top of the leftmost place in twips, @param stellen how many places.
-  /// @param ansage what a screen reader says before the digits, @param rot before red digits.
+  /// @param ecke   left and top of the row, @param stellen number of digits.
+  /// @param ansage a screen reader says this before the digits, @param rot and this before red
+  /// ones.
   Zifferreihe(QWidget *eltern, const Twips &ecke, int stellen, const QString &ansage,
               const QString &rot = "");
 
-  /// Lets a place show a digit from 0 to 9, or `kLeereZiffer`; place 0 is the rightmost.
+  /// @param stelle   0 is the rightmost, @param ziffer 0 to 9, or `kLeereZiffer`.
   void SetzeZiffer(int stelle, Ziffernfarbe farbe, int ziffer);
 
-  /// Shows the digits of a text right aligned, in green, and blanks the other places.
+  /// Shows the digits of a text, right aligned and green.
   void ZeigeText(const QString &ziffern);
 
-  /// The digits that are shown; empty if every place is blank.
+  /// The digits that are shown, without the blank places.
   QString Gezeigt() const;
-  QString Ansage() const;
 
  protected:
   void paintEvent(QPaintEvent *ereignis) override;
 
  private:
+  void AktualisiereName();
+
   struct Ziffer {
     Ziffernfarbe farbe = Ziffernfarbe::Gruen;
     int wert = kLeereZiffer;

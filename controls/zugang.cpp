@@ -8,13 +8,13 @@
 
 namespace {
 
-/// A picture of which nothing is to be seen, as an arrow is between two games.
+/// True for an arrow without a picture, which is visible for Qt only.
 bool IstLeer(const QWidget *element) {
   const auto *bild = qobject_cast<const Bild *>(element);
   return bild && bild->Rolle() == QAccessible::Graphic && bild->Bildname().isEmpty();
 }
 
-/// A control whose hidden children do not exist for assistive technology.
+/// Presents a control without its hidden children.
 class Zugang : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;
@@ -41,13 +41,10 @@ class Zugang : public QAccessibleWidget {
   }
 };
 
+/// Presents a picture with its state and the actions of its mouse buttons.
 class ZugangBild : public Zugang {
  public:
   explicit ZugangBild(Bild *bild) : Zugang(bild, bild->Rolle()) {}
-
-  QString text(QAccessible::Text art) const override {
-    return art == QAccessible::Name ? Das().Ansage() : Zugang::text(art);
-  }
 
   QAccessible::State state() const override {
     QAccessible::State zustand = Zugang::state();
@@ -70,7 +67,7 @@ class ZugangBild : public Zugang {
   void doAction(const QString &name) override {
     if (!actionNames().contains(name))
       return;
-    // The caller waits for an answer, and a click may open a window that stays.
+    // Do not block the caller: the click may open a modal window.
     const Qt::MouseButton taste = name == pressAction() ? Qt::LeftButton : Qt::RightButton;
     QTimer::singleShot(0, &Das(), [bild = &Das(), taste] { bild->Bediene(taste); });
   }
@@ -79,23 +76,12 @@ class ZugangBild : public Zugang {
   Bild &Das() const { return *static_cast<Bild *>(object()); }
 };
 
-class ZugangZiffern : public QAccessibleWidget {
- public:
-  explicit ZugangZiffern(Zifferreihe *reihe) : QAccessibleWidget(reihe, QAccessible::StaticText) {}
-
-  QString text(QAccessible::Text art) const override {
-    if (art != QAccessible::Name)
-      return QAccessibleWidget::text(art);
-    return static_cast<Zifferreihe *>(object())->Ansage();
-  }
-};
-
-/// Qt calls this for each class of an object, the derived ones first.
+/// Qt calls this for the class of an object, then for its base classes.
 QAccessibleInterface *Fabrik(const QString &klasse, QObject *objekt) {
   if (auto *bild = qobject_cast<Bild *>(objekt))
     return new ZugangBild(bild);
   if (auto *reihe = qobject_cast<Zifferreihe *>(objekt))
-    return new ZugangZiffern(reihe);
+    return new QAccessibleWidget(reihe, QAccessible::StaticText);
   if (klasse == "Bildfenster")
     return new Zugang(qobject_cast<QWidget *>(objekt), QAccessible::Dialog);
   return nullptr;

@@ -1,7 +1,6 @@
-/// @file
-/// What a screen reader sees of the game's own controls.
+// Accessibility of the game's own controls.
 #pragma once
 
-/// Lets Qt present pictures, digit rows and windows of the game to assistive technology. Hidden
-/// controls are not presented at all.
+/// Makes pictures, digit rows and windows of the game accessible. Hidden controls of a window with
+/// pictures do not appear in the accessibility tree.
 void RichteZugangEin();

@@ -1,6 +1,3 @@
-/// @file
-/// The interface between the rules and the screen. The main window implements it, and so do the
-/// tests. The rules read back from it which tile a cell shows and which buttons are visible.
 #pragma once
 
 #include <string>
@@ -8,24 +5,24 @@
 #include "core/meldungen.h"
 #include "core/spiel.h"
 
-/// Controls that come and go in the course of a game. The level is won while `imgNextLevel` is
-/// visible, and lost while `cmdWiederholen` is visible.
+/// Controls that `Zeige` shows and hides. The level is won while `imgNextLevel` is visible, and lost
+/// while `cmdWiederholen` is visible.
 enum class Bedienung {
   imgNextLevel,
   cmdWiederholen,
-  imgSpeichern,  ///< Together with its menu entry.
-  imgOeffnen,    ///< Together with its menu entry.
+  imgSpeichern,  ///< Its menu entry is enabled and disabled with it.
+  imgOeffnen,    ///< The same.
   imgBester,
-  imgWeiter,  ///< Is shown, but never hidden: an arrow disappears by `StoppePfeil`.
+  imgWeiter,  ///< Always visible: showing it has no effect, and an empty picture hides the arrow.
 };
 
-/// The two blinking arrows, each driven by a timer of its own.
+/// The two blinking arrows. Each has its own timer.
 enum class Pfeil {
-  Start,   ///< `imgZeigeStart`, driven by `timStart`, points at `imgNeuesSpiel`.
-  Weiter,  ///< `imgWeiter`, driven by `timNaechsterLevel`, points at `imgNextLevel`.
+  Start,   ///< `imgZeigeStart` with `timStart`, points at `imgNeuesSpiel`.
+  Weiter,  ///< `imgWeiter` with `timNaechsterLevel`, points at `imgNextLevel`.
 };
 
-inline constexpr int kKeinPfeil = 2;  ///< Phase in which an arrow has no picture.
+inline constexpr int kKeinPfeil = 2;  ///< Phase of an arrow that has no picture.
 
 /// The rows of the panel from top to bottom.
 enum class Panelreihe {
@@ -42,6 +39,8 @@ inline constexpr int kLeereZiffer = 10;  ///< The digit picture with all segment
 /// Colours of the text in `lblModus`.
 enum class Textfarbe { Dunkelblau, Blau };
 
+/// The screen as the rules see it. The main window implements it, and so do the tests. The rules
+/// read back the tiles, which clue places are empty, and which buttons are visible.
 class Ansicht {
  public:
   virtual ~Ansicht() = default;
@@ -49,7 +48,7 @@ class Ansicht {
   // Playfield. Cells and clue places are numbered from 1 to 100.
   virtual Kachel LiesKachel(int zelle) const = 0;
   virtual void SetzeKachel(int zelle, Kachel kachel) = 0;
-  /// @param zahl   0 to 10; 0 is the empty place.
+  /// @param zahl   0 (empty) to 10.
   virtual void SetzeZahl(int platz, int zahl) = 0;
   virtual bool IstZahlNull(int platz) const = 0;
   virtual void ZeigeZahlfeld(int platz, bool sichtbar) = 0;
@@ -60,17 +59,16 @@ class Ansicht {
   virtual void SetzeModustext(const std::string &text) = 0;
   virtual void SetzeModusfarbe(Textfarbe farbe) = 0;
 
-  // Phase of play.
+  // Buttons and arrows.
   virtual bool IstSichtbar(Bedienung bedienung) const = 0;
   virtual void Zeige(Bedienung bedienung, bool sichtbar) = 0;
-  /// Hides the mode row for the rest of the run.
+  /// Hides the choice of the mode. Nothing shows it again.
   virtual void VerbergeModuswahl() = 0;
-  /// Starts the timer of an arrow. The picture changes with the first tick.
-  /// @param takt   interval in milliseconds.
+  /// Starts the timer of an arrow, without changing its picture. @param takt   milliseconds.
   virtual void StartePfeil(Pfeil pfeil, int takt) = 0;
   /// @param phase   0 yellow, 1 red, or `kKeinPfeil`.
   virtual void ZeigePfeil(Pfeil pfeil, int phase) = 0;
-  /// Stops the timer of an arrow and takes its picture away.
+  /// Stops the timer of an arrow and removes its picture.
   virtual void StoppePfeil(Pfeil pfeil) = 0;
 
   // Sounds and windows.
@@ -78,10 +76,10 @@ class Ansicht {
   virtual void SpieleSound(int effekt) = 0;
   /// `Melde` and `Frage` play the sound of the message and return when its window has closed.
   virtual void Melde(const Meldung &meldung) = 0;
-  /// Leaves the answer in `spiel.Antwort`. @return true if it is yes.
+  /// Stores the answer in `spiel.Antwort`. @return true if it is yes.
   virtual bool Frage(const Meldung &meldung) = 0;
   virtual void BestenlistePruefen() = 0;
-  /// Lets the player type a name into the row of the new entry. Returns when the window has closed.
+  /// Lets the player name the new entry. Returns when the window has closed.
   virtual void ZeigeBesteneintrag() = 0;
   virtual void BeendeDasSpiel() = 0;
 };

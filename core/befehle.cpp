@@ -10,7 +10,7 @@ constexpr int kBlinkenStart = 300;  // milliseconds
 constexpr std::int32_t kPunkteJeLevel = 300;
 constexpr std::int32_t kPunkteJeLevelExperte = 350;
 
-/// Adds the result of a level to the points.
+/// Adds the result of the level to the points.
 void VerbucheLevelpunkte() {
   spiel.Punkte = SummePunkte();
   spiel.Levelpunkte = 0;

@@ -41,7 +41,7 @@ std::int16_t ZufaelligeZelle(int von, int bis) {
   return static_cast<std::int16_t>(static_cast<int>(zufall.Zahl() * (bis - von + 1)) + von);
 }
 
-/// Draws a cell whose flag is not set, and sets it.
+/// Draws cells until the flag of one is not set, and sets it.
 std::int16_t ZieheZelle(std::int16_t von, std::int16_t bis, bool Zelle::*merkmal) {
   zufall.Saee();
   std::int16_t zelle = 0;
@@ -56,12 +56,12 @@ void FuelleBrett() {
   spiel.lstWiederHolen.clear();
   for (std::int16_t k = 1; k <= spiel.AnzahlSaranten; ++k) {
     const std::int16_t zelle = ZieheSarant(1, kZellen);
-    spiel.SarantenListe.at(static_cast<std::size_t>(k)) = zelle;
+    Element(spiel.SarantenListe, k) = zelle;
     spiel.lstWiederHolen.push_back(std::to_string(zelle));
   }
 }
 
-/// After level 40: the closing messages, the best list, and the end of the process.
+/// After level 40: shows the closing messages, offers the best list, and ends the process.
 void SpielZuEnde(Ansicht &ansicht) {
   ansicht.Melde(MeldungSpielBeendet());
   ansicht.BestenlistePruefen();
@@ -75,7 +75,7 @@ void SpielZuEnde(Ansicht &ansicht) {
 std::int16_t StartfelderFuer(int level, int modus) {
   if (modus == kModusExperte && level > 5 && level <= 20)
     return static_cast<std::int16_t>(level - 5);
-  return StufeFuer(kStartstufen, level).felder.at(static_cast<std::size_t>(modus - 1));
+  return Element(StufeFuer(kStartstufen, level).felder, modus - 1);
 }
 
 std::int16_t FreifelderFuer(int level) {

@@ -1,5 +1,4 @@
-/// @file
-/// The start of a level: counters, board, start cells and free-cell marks.
+// The start of a level: counters, board, start cells and free-cell marks.
 #pragma once
 
 #include <cstdint>
@@ -16,16 +15,15 @@ std::int16_t FreifelderFuer(int level);
 /// Begins a game at level 1.
 void SpielBeginnen(Ansicht &ansicht);
 
-/// Raises `Level` and sets up that level, or ends the game after level 40. Writes no clue numbers:
-/// the caller must run `BerechneZahlen` afterwards.
+/// Raises `Level` and sets up that level, or ends the game after level 40. Does not write the clue
+/// numbers: call `BerechneZahlen` afterwards.
 void LevelBeginnen(Ansicht &ansicht);
 
-/// Draws a cell from `von` to `bis` that holds no gem, and puts a gem there.
-/// @pre There is such a cell.
+/// Draws a cell from `von` to `bis` that holds no gem, and puts a gem there. Such a cell must
+/// exist.
 std::int16_t ZieheSarant(std::int16_t von, std::int16_t bis);
 
-/// Draws a cell from `von` to `bis` whose `Gezogen` is not set, and sets it.
-/// @pre There is such a cell.
+/// Draws a cell from `von` to `bis` without `Gezogen`, and sets it. Such a cell must exist.
 std::int16_t ZieheStartfeld(std::int16_t von, std::int16_t bis);
 
 /// Opens `Startfelder` random gems by simulated left clicks.

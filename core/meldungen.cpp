@@ -8,7 +8,7 @@ const std::string &Versionstext() {
 }
 
 const char *const kWaehleModus =
-    "Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\"";  // The quote belongs to it.
+    "Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\"";  // The quote is part of it.
 const char *const kKlickNaechsterLevel = "Klicken Sie auf »Nächster Level«";
 const char *const kKlickWiederholen = "Klicken Sie auf »Wiederholen«";
 
@@ -24,8 +24,7 @@ std::string Moduszeile(int leerzeichen) {
 
 Meldung FrageNeuesSpiel() {
   return {kSoundBlip,
-          "Es läuft bereits ein aktuelles Spiel.\r\n"
-          "Sind Sie sicher,\r\n"
+          "Es läuft bereits ein aktuelles Spiel.\r\nSind Sie sicher,\r\n"
           "dass Sie ein neues Spiel beginnen möchten?",
           "\r\n»Neues Spiel« bestätigen"};
 }
@@ -33,16 +32,14 @@ Meldung FrageNeuesSpiel() {
 Meldung FrageEinstellungen() {
   return {kSoundFrage,
           "Es läuft ein aktuelles Spiel mit " + std::to_string(spiel.Punkte) +
-              "« Punkten.\r\n"
-              "Wenn Sie die Einstellungen ändern,\r\n"
+              "« Punkten.\r\nWenn Sie die Einstellungen ändern,\r\n"
               "müssen Sie ein neues Spiel beginnen.",
           "\r\n»Einstellungen ändern« bestätigen"};
 }
 
 Meldung FrageBeenden() {
   return {kSoundBlip,
-          "Es läuft bereits ein aktuelles Spiel.\r\n"
-          "Sind Sie sicher,\r\n"
+          "Es läuft bereits ein aktuelles Spiel.\r\nSind Sie sicher,\r\n"
           "dass Sie das Spiel beenden möchten?",
           "\r\n»Spiel beenden« bestätigen"};
 }
@@ -62,53 +59,37 @@ Meldung FrageLaden(int level, int modus, const std::string &punkte) {
 }
 
 Meldung FrageBesteneintrag() {
-  return {kSoundStart,
-          "Sehr gut!!\r\n"
-          "Sie haben eine neue Bestmarke erreicht.",
+  return {kSoundStart, "Sehr gut!!\r\nSie haben eine neue Bestmarke erreicht.",
           "Möchten Sie sich in die Liste der »Besten Spieler« eintragen?"};
 }
 
 Meldung FrageEintraegeLoeschen() {
-  return {kSoundFrage,
-          "\r\nSind Sie sicher,\r\n"
-          "dass Sie alle Einträge löschen möchten?",
+  return {kSoundFrage, "\r\nSind Sie sicher,\r\ndass Sie alle Einträge löschen möchten?",
           "\r\n»Einträge löschen« bestätigen"};
 }
 
 Meldung FrageAuswahl(int level, int modus) {
   return {kSoundFrage,
-          "Sie haben folgende Einstellung gewählt\r\n"
-          "Spielstart in Level:  " +
+          "Sie haben folgende Einstellung gewählt\r\nSpielstart in Level:  " +
               std::to_string(level) + "\r\nSpielmodus:  " + ModusName(modus),
           "\r\n»Auswahl« bestätigen"};
 }
 
 Meldung MeldungSpielBeendet() {
-  return {kSoundTada,
-          "Das Spiel ist beendet!\r\n"
-          "Sie haben alle Level erfolgreich gespielt.",
-          "Es wird geprüft,\r\n"
-          "ob Sie sich in die Liste der Besten Spieler eintragen können.",
+  return {kSoundTada, "Das Spiel ist beendet!\r\nSie haben alle Level erfolgreich gespielt.",
+          "Es wird geprüft,\r\nob Sie sich in die Liste der Besten Spieler eintragen können.",
           Lage::RechtsUnten};
 }
 
 Meldung MeldungVielenDank() {
-  return {kKeinSound,
-          "\r\nVielen Dank!\r\n"
-          "Sie haben Glanzgrube erfolgreich beendet.",
-          "\r\nBesuchen Sie auch meine Homepage.\r\n"
-          "www.glanzgrube.example",
-          Lage::RechtsUnten};
+  return {kKeinSound, "\r\nVielen Dank!\r\nSie haben Glanzgrube erfolgreich beendet.",
+          "\r\nBesuchen Sie auch meine Homepage.\r\nwww.glanzgrube.example", Lage::RechtsUnten};
 }
 
 Meldung MeldungInfo() {
   return {kSoundBlip,
-          "Spielidee und Programmierung:\r\n"
-          "Spielewerkstatt Silbergrund\r\n"
-          "www.silbergrund.example",
-          "Grafik:\r\n"
-          "Atelier am Mühlgraben\r\n"
-          "www.muehlgraben.example"};
+          "Spielidee und Programmierung:\r\nSpielewerkstatt Silbergrund\r\nwww.silbergrund.example",
+          "Grafik:\r\nAtelier am Mühlgraben\r\nwww.muehlgraben.example"};
 }
 
 Meldung MeldungKeineFestplatte() {
@@ -118,8 +99,7 @@ Meldung MeldungKeineFestplatte() {
 
 Meldung MeldungOrdnerFehlgeschlagen() {
   return {kSoundFehler, "\r\nDas Anlegen des Ordners für die Daten ist fehlgeschlagen!",
-          "\r\nDie Daten für die Stastitik\r\n"
-          "können nicht gespeichert werden!"};
+          "\r\nDie Daten für die Stastitik\r\nkönnen nicht gespeichert werden!"};
 }
 
 Meldung MeldungFalscherDateityp(const std::string &dateititel) {
@@ -133,43 +113,31 @@ Meldung MeldungKeinDateiname() {
 }
 
 Meldung MeldungLesefehler(int fehlernummer) {
-  return {kSoundFehler,
-          "Fehler beim Lesen der Datei.\r\n"
-          "Spielstand konnten nicht geladen werden.",
+  return {kSoundFehler, "Fehler beim Lesen der Datei.\r\nSpielstand konnten nicht geladen werden.",
           "\r\nFehlernummer: " + std::to_string(fehlernummer)};
 }
 
 Meldung MeldungSchreibfehler(int fehlernummer) {
-  return {kSoundFehler,
-          "Fehler beim Speichen der Daten\r\n"
-          "Der Spielstand wurde nicht gespeichert!",
+  return {kSoundFehler, "Fehler beim Speichen der Daten\r\nDer Spielstand wurde nicht gespeichert!",
           "\r\nFehlernummer: " + std::to_string(fehlernummer)};
 }
 
 Meldung MeldungKeinBesteneintrag() {
-  return {kSoundBlip,
-          "Ein Eintrag in die Liste der »Besten Spieler«\r\n"
-          "ist leider nicht möglich!",
+  return {kSoundBlip, "Ein Eintrag in die Liste der »Besten Spieler«\r\nist leider nicht möglich!",
           "Mehr Erfolg beim nächsten »Spiel«."};
 }
 
 Meldung MeldungBesteNichtGelesen(int fehlernummer) {
-  return {kSoundFehler,
-          "Die Daten für »Beste Spieler«\r\n"
-          "konnten nicht gelesen werden!",
+  return {kSoundFehler, "Die Daten für »Beste Spieler«\r\nkonnten nicht gelesen werden!",
           "Fehlernummer: " + std::to_string(fehlernummer)};
 }
 
 Meldung MeldungBesteNichtGespeichert() {
-  return {kSoundFrage,
-          "Die Werte für »Beste Spieler«\r\n"
-          "konnten nicht gespeichert werden.",
+  return {kSoundFrage, "Die Werte für »Beste Spieler«\r\nkonnten nicht gespeichert werden.",
           "\r\nFehler beim Speichern"};
 }
 
 Meldung MeldungKeineSoundkarte() {
-  return {kSoundFrage,
-          "\r\nEs wurde keine Soundkarte,\r\n"
-          "auf Ihren System erkannt",
+  return {kSoundFrage, "\r\nEs wurde keine Soundkarte,\r\nauf Ihren System erkannt",
           "\r\n»Soundeffekt an« ist nicht möglich!"};
 }

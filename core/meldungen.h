@@ -1,5 +1,4 @@
-/// @file
-/// All messages of the game, with their sounds and window positions, and the texts of `lblModus`.
+// All messages of the game, with their sounds and window positions, and the texts of `lblModus`.
 #pragma once
 
 #include <cstdint>
@@ -20,7 +19,7 @@ enum class Lage {
   LinksOben,    ///< 100 twips left of and above it.
 };
 
-/// One message. Line breaks are CR LF. One at the start of a text moves its first line down.
+/// One message. Line breaks are CR LF; a leading one moves the text down by a line.
 struct Meldung {
   int sound;
   std::string lblMeldung;
@@ -36,7 +35,7 @@ Meldung FrageNeuesSpiel();
 Meldung FrageEinstellungen();
 Meldung FrageBeenden();
 Meldung FrageSucheSpielstand();
-/// @param level   the level to be started, @param punkte the second line of the file as it stands.
+/// @param level   the level to start, @param punkte the second line of the file, unchanged.
 Meldung FrageLaden(int level, int modus, const std::string &punkte);
 Meldung FrageBesteneintrag();
 Meldung FrageEintraegeLoeschen();
@@ -59,7 +58,7 @@ Meldung MeldungBesteNichtGespeichert();
 Meldung MeldungKeineSoundkarte();
 
 // Texts of `lblModus`.
-/// The text of a running game. @param leerzeichen   blanks behind the colon, two or three.
+/// The text of a running game. @param leerzeichen   blanks after the colon, two or three.
 std::string Moduszeile(int leerzeichen);
 std::string GewaehlterModus(int modus);
 extern const char *const kWaehleModus;

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// A row or a column, from its right or lower end.
+/// A row or a column, read from its right or lower end.
 struct Linie {
   int ersteZelle;
   int schritt;

@@ -4,7 +4,7 @@
 #include <chrono>
 
 std::uint64_t LiesUhr() {
-  // The calendar clock is coarse on some systems. The steady clock differs between two draws.
+  // Some systems have a coarse calendar clock. The steady clock makes two draws differ.
   const auto kalender = std::chrono::system_clock::now().time_since_epoch().count();
   const auto stetig = std::chrono::steady_clock::now().time_since_epoch().count();
   return static_cast<std::uint64_t>(kalender) ^ std::rotl(static_cast<std::uint64_t>(stetig), 32);
@@ -15,6 +15,6 @@ void Zufall::Saee() {
 }
 
 double Zufall::Zahl() {
-  // 53 bits are the mantissa of a double: the result is exact and never rounded up to 1.
+  // A double has 53 bits of mantissa. More bits could round the result up to 1.
   return static_cast<double>(generator_() >> 11) * 0x1p-53;
 }

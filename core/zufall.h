@@ -1,5 +1,3 @@
-/// @file
-/// The random generator.
 #pragma once
 
 #include <cstdint>
@@ -9,12 +7,13 @@
 /// A seed from the calendar clock and the steady clock of the machine.
 std::uint64_t LiesUhr();
 
-/// A random generator that is seeded from a clock. A test replaces the clock by a counter, so that
-/// the same boards are dealt again.
+/// The random generator, seeded from a clock. Tests replace the clock by a counter, so that they
+/// get the same boards each time.
 class Zufall {
  public:
   std::function<std::uint64_t()> Uhr = LiesUhr;  ///< Returns the seed.
 
+  /// Seeds the generator from the clock.
   void Saee();
   /// A random number, uniform in 0 <= r < 1.
   double Zahl();

@@ -12,8 +12,8 @@ constexpr std::int32_t kAbzug = 100;
 constexpr int kBlinkenGewonnen = 300;  // milliseconds
 constexpr int kBlinkenVerloren = 400;  // milliseconds
 
-/// False before the first level, when no cell can be played.
-bool BrettLiegt() {
+/// False until the first level has begun.
+bool HatSaranten() {
   return std::ranges::any_of(spiel.Feld, &Zelle::IstSarant);
 }
 
@@ -34,13 +34,13 @@ void LevelVerloren(Ansicht &ansicht) {
   ansicht.SpieleSound(kSoundFehler);
   spiel.Levelpunkte = -kAbzug;
   ZeigeStatus(ansicht);
-  ZeigeLevelpunkte(ansicht, kAbzug, Ziffernfarbe::Rot);  // After ZeigeStatus(), which blanks it.
+  ZeigeLevelpunkte(ansicht, kAbzug, Ziffernfarbe::Rot);  // ZeigeStatus() blanks the row.
 }
 
 }  // namespace
 
 void imgSar_MouseDown(Ansicht &ansicht, int Index, int Button) {
-  if (!BrettLiegt() || ansicht.IstSichtbar(Bedienung::imgNextLevel) ||
+  if (!HatSaranten() || ansicht.IstSichtbar(Bedienung::imgNextLevel) ||
       ansicht.IstSichtbar(Bedienung::cmdWiederholen))
     return;
   const Kachel kachel = ansicht.LiesKachel(Index);
@@ -76,6 +76,6 @@ void ZugAuswerten(Ansicht &ansicht) {
 }
 
 void LevelwertungZeigen(Ansicht &ansicht) {
-  spiel.Levelpunkte = kBonus.at(static_cast<std::size_t>(spiel.Spielmodus - 1));
+  spiel.Levelpunkte = Element(kBonus, spiel.Spielmodus - 1);
   ZeigeLevelwertung(ansicht);
 }

@@ -6,7 +6,6 @@
 
 #include "controls/bild.h"
 #include "controls/bilder.h"
-#include "controls/schirmwechsel.h"
 #include "controls/tastatur.h"
 #include "platform/fenstersystem.h"
 

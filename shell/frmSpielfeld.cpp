@@ -9,7 +9,6 @@
 #include <optional>
 
 #include "controls/bilder.h"
-#include "controls/schirmwechsel.h"
 #include "core/befehle.h"
 #include "core/level.h"
 #include "dialogs/frmMsg.h"

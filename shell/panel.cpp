@@ -5,17 +5,15 @@
 
 namespace {
 
-/// A row of the panel: its label picture and its digits.
 struct Paneleintrag {
   Bildeintrag tafel;
   Twips ecke;
   int stellen;
   const char *rot = "";  ///< A screen reader says this before red digits.
 };
-// In the order of `Panelreihe`.
 constexpr auto kTafel = QAccessible::Graphic;
 // clang-format off
-const Paneleintrag kPanel[] = {
+const Paneleintrag kPanel[] = {  // In the order of `Panelreihe`.
     {{"Image1", {240, 3330, 2865, 630}, "tafelPunkte",
       "Punkte, die Sie in diesem Spiel haben", "Punkte", kTafel}, {1860, 3450}, 5},
     {{"Image6", {240, 4020, 2865, 630}, "tafelLevelpunkte",

@@ -1,5 +1,3 @@
-/// @file
-/// The panel: five label pictures with the digits of points, result, errors, rest and level.
 #pragma once
 
 #include <array>
@@ -9,12 +7,13 @@
 class QWidget;
 class Zifferreihe;
 
+/// The panel at the left of the main window: five label pictures with rows of digits.
 class Panel {
  public:
   /// @param flaeche   becomes the parent of the panel's controls.
   explicit Panel(QWidget *flaeche);
 
-  Zifferreihe &Reihe(Panelreihe reihe) { return *reihen_.at(static_cast<std::size_t>(reihe)); }
+  Zifferreihe &Reihe(Panelreihe reihe) { return *Element(reihen_, reihe); }
 
  private:
   std::array<Zifferreihe *, 5> reihen_{};

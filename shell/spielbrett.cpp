@@ -7,11 +7,11 @@
 
 namespace {
 
-// Has no picture of its own: the picture of the main window shows the board.
+// Without a picture: the background of the main window shows the board.
 const Bildeintrag kPicture1{"Picture1",  {3330, 210, 9645, 9705}, "", "",
                             "Spielfeld", QAccessible::Grouping};
 
-// The places of cell 1, of the lowest place of column 1 and of the rightmost place of row 1.
+// Positions of cell 1, of the lowest place of column 1, and of the rightmost place of row 1.
 constexpr Twips kZelle{2370, 2370, 705, 705};
 constexpr Twips kSpaltenplatz{2520, 1800, 435, 465};
 constexpr Twips kZeilenplatz{1800, 2460, 435, 465};
@@ -42,7 +42,7 @@ Zahlfeld ZahlfeldVon(int platz) {
   return {platz <= kZahlfelder / 2, nummer / kPlaetzeJeLinie + 1, nummer % kPlaetzeJeLinie + 1};
 }
 
-/// The places of a line grow away from the playfield.
+/// Place 1 of a line is next to the cells, the others are further outside.
 Twips Platzlage(const Zahlfeld &feld) {
   Twips lage = feld.spalte ? kSpaltenplatz : kZeilenplatz;
   if (feld.spalte) {
@@ -66,48 +66,54 @@ QByteArray Name(const char *stamm, int nummer) {
 }  // namespace
 
 Zellenbild::Zellenbild(QWidget *eltern, int nummer)
-    : Bild(eltern, {Name("imgSar", nummer), Zellenlage(nummer), "", "", ""}), nummer_(nummer) {}
+    : Bild(eltern, {Name("imgSar", nummer), Zellenlage(nummer), "", "", ""}), nummer_(nummer) {
+  AktualisiereName();
+}
 
 void Zellenbild::SetzeKachel(Kachel kachel) {
   if (kachel_ == kachel)
     return;
   kachel_ = kachel;
-  Aktualisiere();
+  update();
+  AktualisiereName();
 }
 
 QString Zellenbild::Bildname() const {
   return Kachelbild(kachel_);
 }
 
-QString Zellenbild::Ansage() const {
+void Zellenbild::AktualisiereName() {
   constexpr std::array kWoerter{"verdeckt", "markiert", "Fehler", "Sarant"};
-  return QString("Zeile %1, Spalte %2: %3")
-      .arg(ZeileVon(nummer_))
-      .arg(SpalteVon(nummer_))
-      .arg(kWoerter.at(static_cast<std::size_t>(kachel_)));
+  setAccessibleName(QString("Zeile %1, Spalte %2: %3")
+                        .arg(ZeileVon(nummer_))
+                        .arg(SpalteVon(nummer_))
+                        .arg(Element(kWoerter, kachel_)));
 }
 
 Zahlenbild::Zahlenbild(QWidget *eltern, int platz)
     : Bild(eltern, {Name("imgDiggi", platz), Platzlage(ZahlfeldVon(platz)), "", "", "",
                     QAccessible::StaticText}),
-      platz_(platz) {}
+      platz_(platz) {
+  AktualisiereName();
+}
 
 void Zahlenbild::SetzeZahl(int zahl) {
   zahl_ = zahl;
-  Aktualisiere();
+  update();
+  AktualisiereName();
 }
 
 QString Zahlenbild::Bildname() const {
   return frmZahlen::imgZahl(zahl_);
 }
 
-QString Zahlenbild::Ansage() const {
+void Zahlenbild::AktualisiereName() {
   const Zahlfeld feld = ZahlfeldVon(platz_);
-  return QString("%1 %2, Zahl %3: %4")
-      .arg(Linienart(feld.spalte))
-      .arg(feld.linie)
-      .arg(feld.k)
-      .arg(zahl_);
+  setAccessibleName(QString("%1 %2, Zahl %3: %4")
+                        .arg(Linienart(feld.spalte))
+                        .arg(feld.linie)
+                        .arg(feld.k)
+                        .arg(zahl_));
 }
 
 Spielbrett::Spielbrett(QWidget *eltern, Ansicht &ansicht) : Bild(eltern, kPicture1) {
@@ -116,10 +122,10 @@ Spielbrett::Spielbrett(QWidget *eltern, Ansicht &ansicht) : Bild(eltern, kPictur
     zelle->SetzeDruck([&ansicht, n](Qt::MouseButton taste) {
       imgSar_MouseDown(ansicht, n, taste == Qt::LeftButton ? kLinkeTaste : kRechteTaste);
     });
-    imgSar_.at(static_cast<std::size_t>(n)) = zelle;
+    Element(imgSar_, n) = zelle;
   }
   for (int n = 1; n <= kZahlfelder; ++n)
-    imgDiggi_.at(static_cast<std::size_t>(n)) = new Zahlenbild(this, n);
+    Element(imgDiggi_, n) = new Zahlenbild(this, n);
 }
 
 QString Spielbrett::Linientext(bool spalte, int linie) const {

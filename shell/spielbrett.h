@@ -1,14 +1,11 @@
-/// @file
-/// The board: the hundred cells, and the clue places above and beside them.
 #pragma once
 
 #include <array>
-#include <vector>
 
 #include "controls/bild.h"
 #include "core/ansicht.h"
 
-/// A cell. The tile that it shows is the only record of what has happened to it.
+/// A cell. It stores the tile that it shows.
 class Zellenbild : public Bild {
   Q_OBJECT
 
@@ -20,9 +17,10 @@ class Zellenbild : public Bild {
   void SetzeKachel(Kachel kachel);
 
   QString Bildname() const override;
-  QString Ansage() const override;
 
  private:
+  void AktualisiereName();
+
   int nummer_;
   Kachel kachel_ = Kachel::Verdeckt;
 };
@@ -32,8 +30,7 @@ class Zahlenbild : public Bild {
   Q_OBJECT
 
  public:
-  /// @param platz   1 to 100: five to each column from the left, then five to each row from the
-  /// top.
+  /// @param platz   1 to 50 for the columns from the left, 51 to 100 for the rows from the top.
   Zahlenbild(QWidget *eltern, int platz);
 
   int LiesZahl() const { return zahl_; }
@@ -41,14 +38,15 @@ class Zahlenbild : public Bild {
   void SetzeZahl(int zahl);
 
   QString Bildname() const override;
-  QString Ansage() const override;
 
  private:
+  void AktualisiereName();
+
   int platz_;
   int zahl_ = 0;
 };
 
-/// Holds the cells and the clue places, and hands every press on a cell to the rules.
+/// The board: the cells and the clue places. Passes every press on a cell to the rules.
 class Spielbrett : public Bild {
   Q_OBJECT
 
@@ -57,13 +55,13 @@ class Spielbrett : public Bild {
   Spielbrett(QWidget *eltern, Ansicht &ansicht);
 
   /// @param nummer   1 to 100.
-  Zellenbild &Zelle(int nummer) const { return *imgSar_.at(static_cast<std::size_t>(nummer)); }
+  Zellenbild &Zelle(int nummer) const { return *Element(imgSar_, nummer); }
   /// @param nummer   1 to 100.
-  Zahlenbild &Platz(int nummer) const { return *imgDiggi_.at(static_cast<std::size_t>(nummer)); }
+  Zahlenbild &Platz(int nummer) const { return *Element(imgDiggi_, nummer); }
 
   /// The cells, row by row.
-  std::vector<QWidget *> Zellen() const { return {imgSar_.begin() + 1, imgSar_.end()}; }
-  /// The visible numbers of a line, from the left or from the top, for a screen reader.
+  QList<QWidget *> Zellen() const { return {imgSar_.begin() + 1, imgSar_.end()}; }
+  /// Reads the visible numbers of a line to a screen reader, from the left or from the top.
   /// @param linie   1 to 10.
   QString Linientext(bool spalte, int linie) const;
 
