@@ -108,8 +108,7 @@ void Bild::SetzeGedrueckt(bool gedrueckt) {
   }
 }
 
-void Bild::paintEvent(QPaintEvent *ereignis) {
-  Q_UNUSED(ereignis)
+void Bild::paintEvent(QPaintEvent *) {
   QPainter maler(this);
   const QPixmap bild = Katalogbild(Bildname(), devicePixelRatioF());
   ZeichneGenau(maler, {0, 0}, bild);

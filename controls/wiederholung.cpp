@@ -39,8 +39,7 @@ bool IstWiederholung(const QKeyEvent &taste) {
   return Beurteile(taste).wiederholt;
 }
 
-bool Tastenwache::eventFilter(QObject *ziel, QEvent *ereignis) {
-  Q_UNUSED(ziel)
+bool Tastenwache::eventFilter(QObject *, QEvent *ereignis) {
   const QEvent::Type art = ereignis->type();
   if (art == QEvent::KeyRelease) {
     const auto &taste = *static_cast<QKeyEvent *>(ereignis);

@@ -53,8 +53,7 @@ void Zifferreihe::AktualisiereName() {
   setAccessibleName(ansage_ + ": " + (gezeigt.isEmpty() ? "leer" : (istRot ? rot_ : "") + gezeigt));
 }
 
-void Zifferreihe::paintEvent(QPaintEvent *ereignis) {
-  Q_UNUSED(ereignis)
+void Zifferreihe::paintEvent(QPaintEvent *) {
   QPainter maler(this);
   int links = width();
   for (const auto &[farbe, wert] : ziffern_) {

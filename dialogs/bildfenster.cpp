@@ -45,17 +45,15 @@ void Bildfenster::Platziere(const QWidget *hauptfenster, Lage lage) {
 void Bildfenster::showEvent(QShowEvent *ereignis) {
   ErlaubeTab(this);
   if (!ereignis->spontaneous())
-    setFocus();  // Otherwise Qt gives the focus to the first button.
+    setFocus();  // Otherwise Qt focuses the first button.
   QDialog::showEvent(ereignis);
 }
 
-void Bildfenster::paintEvent(QPaintEvent *ereignis) {
-  Q_UNUSED(ereignis)
+void Bildfenster::paintEvent(QPaintEvent *) {
   QPainter maler(this);
   ZeichneGenau(maler, {0, 0}, Katalogbild(hintergrund_, devicePixelRatioF()));
 }
 
 void Bildfenster::keyPressEvent(QKeyEvent *ereignis) {
-  // QDialog would press a default button at Enter and close at Esc.
-  ereignis->ignore();
+  ereignis->ignore();  // QDialog would press a button on Enter and close on Esc.
 }

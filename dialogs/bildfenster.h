@@ -1,8 +1,3 @@
-/// @file
-/// What all windows besides the main one share: a fixed size, a picture as background, their place
-/// over the main window, and no meaning for Enter and Esc but one that the window gives itself. One
-/// that waits for the player blocks the windows of the game, but not the cover behind them, whose
-/// click must still bring back a game that was minimised meanwhile.
 #pragma once
 
 #include <QDialog>
@@ -10,15 +5,18 @@
 #include "controls/masse.h"
 #include "core/meldungen.h"
 
+/// Base class of all windows except the main one and the cover: a window of fixed size with a
+/// background picture. Enter and Esc do nothing unless a subclass handles them. A modal window
+/// blocks the main window only, so that a click on the cover can restore a minimised game.
 class Bildfenster : public QDialog {
   Q_OBJECT
 
  public:
-  /// Moves the window to the place that belongs to it over the main window.
+  /// Moves the window to its position relative to the main window. Call it before each show.
   void Platziere(const QWidget *hauptfenster, Lage lage);
 
  protected:
-  /// @param hintergrund   a picture of the catalogue, drawn from the top left corner and cut off.
+  /// @param hintergrund   a picture of the catalogue, drawn at the top left corner and not scaled.
   Bildfenster(QWidget *eltern, Qt::WindowFlags art, const char *hintergrund, const Twips &groesse);
 
   void showEvent(QShowEvent *ereignis) override;
@@ -29,7 +27,7 @@ class Bildfenster : public QDialog {
   const char *hintergrund_;
 };
 
-/// A fixed single border with a title and a closing box, but no boxes to minimise or maximise.
+/// A title bar with a close button, but no buttons to minimise or maximise.
 inline constexpr Qt::WindowFlags kFesterRahmen =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
     Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;

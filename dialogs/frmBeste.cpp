@@ -20,13 +20,13 @@ namespace {
 constexpr int kPunktstellen = 7;
 constexpr Twips kErsterName{1300, 750, 2205, 405};
 constexpr Twips kErstePunkte{4830 - 210 * (kPunktstellen - 1), 720, 210, 420};
-constexpr int kZeilenabstand = 90;  // twips between the rows
+constexpr int kZeilenabstand = 90;  // twips
 
 const Texteintrag kTexte[] = {
     {"Label1", {1110, 180, 2355, 375}, 12, true, kBlau, "Name des Spielers", Qt::AlignLeft},
     {"Label2", {3720, 180, 1245, 285}, 12, true, kBlau, "Punkte", Qt::AlignLeft},
 };
-// The upright rule passes behind the digits.
+// A horizontal line, and a vertical one with a gap for the digits.
 constexpr Twips kLinien[] = {{1290, 600, 3750, 0}, {3600, 120, 0, 555}, {3600, 3225, 0, 105}};
 
 // clang-format off
@@ -35,7 +35,7 @@ const Bildeintrag kClear{"lblClear", {900, 3630, 2205, 525}, "knopfZuruecksetzen
 // clang-format on
 const Bildeintrag kEnde{"cmdEnde", {990, 4260, 2145, 495}, "knopfOk", "Fenster schließen", "OK"};
 
-/// Lets a text box take only what the list's file can hold, so that the player sees what is kept.
+/// Removes characters that the file of the list cannot hold, so that the player sees what is saved.
 class Speicherbares : public QValidator {
  public:
   using QValidator::QValidator;
@@ -67,17 +67,16 @@ frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
     name->setFont(Schrift(12, true));
     name->setValidator(new Speicherbares(name));
     name->setAccessibleName("Name " + nummer);
-    txtSpieler_.at(static_cast<std::size_t>(platz)) = name;
+    Element(txtSpieler_, platz) = name;
 
     lage = kErstePunkte;
     lage.top += platz * (kErstePunkte.height + kZeilenabstand);
-    imgDiggi_.at(static_cast<std::size_t>(platz)) =
-        new Zifferreihe(this, lage, kPunktstellen, "Punkte " + nummer);
+    Element(imgDiggi_, platz) = new Zifferreihe(this, lage, kPunktstellen, "Punkte " + nummer);
   }
   lblClear_ = new Bild(this, kClear);
   lblClear_->SetzeKlick([this] { cmdClear_Click(); });
   (new Bild(this, kEnde))->SetzeKlick([this] { cmdEnde_Click(); });
-  // Enabled in the entry mode, too: a disabled shortcut would type an "a" into the name.
+  // Never disabled: a disabled shortcut would type an "a" into the name.
   new QShortcut(Qt::ALT | Qt::Key_A, this, [this] {
     if (cmdClearSichtbar_)
       cmdClear_Click();
@@ -103,13 +102,12 @@ void frmBeste::ZeigeZumEintragen() {
 
 void frmBeste::showEvent(QShowEvent *ereignis) {
   Bildfenster::showEvent(ereignis);
-  if (!ereignis->spontaneous())  // A window that was minimised must not lose the name in it.
+  if (!ereignis->spontaneous())  // Minimising must not delete the name that was typed.
     Form_Activate();
 }
 
 void frmBeste::closeEvent(QCloseEvent *ereignis) {
-  // The closing box unloads the window: an entry that was not confirmed is lost with it.
-  emit Entladen();
+  emit Entladen();  // A name that was not confirmed is lost.
   deleteLater();
   Bildfenster::closeEvent(ereignis);
 }
@@ -123,18 +121,17 @@ void frmBeste::keyPressEvent(QKeyEvent *ereignis) {
 
 void frmBeste::Form_Activate() {
   const Bestenliste &beste = spiel.Beste;
-  const auto niemand = [](const std::string &name) { return name == kNiemand; };
-  lblClear_->setVisible(!beste.BestenEintrag &&
-                        !std::all_of(beste.lstName.begin(), beste.lstName.end(), niemand));
+  const auto jemand = [](const std::string &name) { return name != kNiemand; };
+  lblClear_->setVisible(!beste.BestenEintrag && std::ranges::any_of(beste.lstName, jemand));
   for (int platz = 0; platz < kBeste; ++platz) {
-    QLineEdit *name = txtSpieler_.at(static_cast<std::size_t>(platz));
+    QLineEdit *name = Element(txtSpieler_, platz);
     name->setText(QString::fromStdString(Eintrag(beste.lstName, platz)));
-    name->setCursorPosition(0);  // A long name is read from its beginning.
+    name->setCursorPosition(0);  // Shows the beginning of a long name.
   }
   EingabeSperren();
   if (beste.BestenEintrag) {
     cmdClearSichtbar_ = false;
-    QLineEdit *eingabe = txtSpieler_.at(static_cast<std::size_t>(beste.BestenPlatz));
+    QLineEdit *eingabe = Element(txtSpieler_, beste.BestenPlatz);
     eingabe->setReadOnly(false);
     eingabe->setFocusPolicy(Qt::StrongFocus);
     eingabe->selectAll();
@@ -160,12 +157,11 @@ void frmBeste::EingabeSperren() {
 
 void frmBeste::cmdEnde_Click() {
   Bestenliste &beste = spiel.Beste;
-  beste.lstName.resize(kBeste);  // What was shown is the list: entries that were missing are empty.
+  beste.lstName.resize(kBeste);  // A failed load may have left the lists short.
   beste.lstPunkte.resize(kBeste);
   if (beste.BestenEintrag) {
-    const auto platz = static_cast<std::size_t>(beste.BestenPlatz);
-    const std::string name = txtSpieler_.at(platz)->text().toStdString();
-    beste.lstName.at(platz) = name.empty() ? kNeuerSpieler : name;
+    const std::string name = Element(txtSpieler_, beste.BestenPlatz)->text().toStdString();
+    Element(beste.lstName, beste.BestenPlatz) = name.empty() ? kNeuerSpieler : name;
     BestenlisteSpeichern(ansicht_);
   }
   hide();
@@ -173,10 +169,8 @@ void frmBeste::cmdEnde_Click() {
 
 void frmBeste::cmdClear_Click() {
   spiel.Beste.BestenEintrag = false;
-  const bool nurNiemand =
-      std::all_of(txtSpieler_.begin(), txtSpieler_.end(),
-                  [](const QLineEdit *name) { return name->text().toStdString() == kNiemand; });
-  if (!nurNiemand && ansicht_.Frage(FrageEintraegeLoeschen())) {
+  const auto jemand = [](const QLineEdit *name) { return name->text().toStdString() != kNiemand; };
+  if (std::ranges::any_of(txtSpieler_, jemand) && ansicht_.Frage(FrageEintraegeLoeschen())) {
     if (!BestenlisteAnlegen())
       ansicht_.Melde(MeldungBesteNichtGespeichert());
     BestenlisteLaden(ansicht_);

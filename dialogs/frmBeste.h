@@ -1,5 +1,3 @@
-/// @file
-/// The five best results. The window is read from the menu, or takes the name of a new entry.
 #pragma once
 
 #include <array>
@@ -12,22 +10,22 @@ class Bild;
 class QLineEdit;
 class Zifferreihe;
 
+/// The window of the best list: shows the five best results and takes the name of a new entry.
 class frmBeste : public Bildfenster {
   Q_OBJECT
 
  public:
-  /// Making the window reads the best list from its file. The closing box unloads it: it deletes
-  /// itself.
+  /// Reads the best list from its file. The close button deletes the window.
   frmBeste(QWidget *hauptfenster, Ansicht &ansicht);
 
-  /// Shows the list beside the running game and returns at once.
+  /// Shows the list without blocking the game and returns at once.
   void ZeigeZumLesen();
-  /// Lets the player name the new entry; returns when the window has closed. A window that is open
-  /// for reading gives way.
+  /// Lets the player name the new entry and returns when the window has closed. A window that is
+  /// open for reading is closed first.
   void ZeigeZumEintragen();
 
  signals:
-  /// The closing box has unloaded the window, which must not be used again.
+  /// Emitted when the close button deletes the window. Do not use the window after this.
   void Entladen();
 
  protected:
@@ -47,5 +45,6 @@ class frmBeste : public Bildfenster {
   std::array<QLineEdit *, kBeste> txtSpieler_{};
   std::array<Zifferreihe *, kBeste> imgDiggi_{};
   Bild *lblClear_;
-  bool cmdClearSichtbar_ = true;  ///< Alt+A acts; after an entry not until the window is made anew.
+  bool cmdClearSichtbar_ =
+      true;  ///< Alt+A works. An entry disables it until the window is deleted.
 };

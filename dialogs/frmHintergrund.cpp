@@ -23,7 +23,7 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster)
   setAttribute(Qt::WA_OpaquePaintEvent);
   create();
   OhneTaskleiste(windowHandle());
-  // Decoding the picture takes 11 ms. The main window paints first.
+  // Decoding the picture takes 11 ms; do it after the first paint of the main window.
   constexpr int kAufschub = 100;  // milliseconds
   QTimer::singleShot(kAufschub, this, [this] {
     Image1 = Streckbild("schreibtisch", size() * devicePixelRatioF());
@@ -31,8 +31,7 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster)
   });
 }
 
-void frmHintergrund::paintEvent(QPaintEvent *ereignis) {
-  Q_UNUSED(ereignis)
+void frmHintergrund::paintEvent(QPaintEvent *) {
   QPainter maler(this);
   maler.setRenderHint(QPainter::SmoothPixmapTransform);
   if (Image1.isNull())
@@ -41,8 +40,7 @@ void frmHintergrund::paintEvent(QPaintEvent *ereignis) {
     maler.drawPixmap(rect(), Image1);
 }
 
-void frmHintergrund::mousePressEvent(QMouseEvent *ereignis) {
-  Q_UNUSED(ereignis)
+void frmHintergrund::mousePressEvent(QMouseEvent *) {
   hauptfenster_->setWindowState(hauptfenster_->windowState() & ~Qt::WindowMinimized);
   QList<QWidget *> fenster{hauptfenster_};
   for (QWidget *anderes : hauptfenster_->findChildren<QWidget *>()) {

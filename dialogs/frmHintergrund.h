@@ -1,16 +1,15 @@
-/// @file
-/// The grey cover of the desktop behind the game.
 #pragma once
 
 #include <QPixmap>
 #include <QWidget>
 
+/// The window behind the game that covers the desktop. It never takes the focus. A click on it
+/// raises the windows of the game and restores them if they are minimised.
 class frmHintergrund : public QWidget {
   Q_OBJECT
 
  public:
-  /// Covers the screen of the main window. A click brings the game's windows to the front, also if
-  /// they were minimised. The cover never takes the focus.
+  /// Covers the screen of the main window.
   explicit frmHintergrund(QWidget *hauptfenster);
 
  protected:
@@ -19,5 +18,5 @@ class frmHintergrund : public QWidget {
 
  private:
   QWidget *hauptfenster_;
-  QPixmap Image1;  ///< Stretched to the size of the screen; null until it is decoded.
+  QPixmap Image1;  ///< Drawn stretched to the screen; null until it is decoded.
 };

@@ -13,26 +13,7 @@
 #include "platform/modShellExecute.h"
 #include "platform/tastenplatz.h"
 
-namespace {
-
-/// A window without answers stores this, which means that the record is left alone.
-constexpr std::int16_t kOhneAntwort = 0;
-
-constexpr Qt::Alignment kMitteOben = Qt::AlignHCenter | Qt::AlignTop;
-
-// The places of the letters on the keyboard, see Tastenplatz().
-constexpr unsigned kPlatzJ = 0x24;
-constexpr unsigned kPlatzN = 0x31;
-
-/// A letter of another alphabet: Qt tells it by its Unicode value.
-bool IstFremderBuchstabe(int taste) {
-  constexpr int kEndeLatein = 0x24f;
-  return taste > kEndeLatein && taste <= QChar::LastValidCodePoint;
-}
-
-}  // namespace
-
-/// All in which the two windows differ.
+/// The differences between the two windows.
 struct Meldelayout {
   struct Knopf {
     Bildeintrag eintrag;
@@ -40,7 +21,7 @@ struct Meldelayout {
   };
   struct Taste {
     Qt::Key taste;
-    unsigned platz;  ///< On a keyboard whose layout has no Latin letters; 0: none.
+    unsigned platz;  ///< Used if the keyboard layout has no Latin letters; 0: none.
     std::int16_t antwort;
   };
 
@@ -56,34 +37,41 @@ struct Meldelayout {
 
 namespace {
 
-const Meldelayout &LayoutJa() {
-  static const Meldelayout layout{
-      "meldungJa",
-      {0, 0, 5880, 3540},
-      {"lblName", {930, 180, 3915, 315}, 12, true, kHellgrau},
-      {60, 750, 5745, 2025},
-      {"lblMeldung", {120, 30, 5475, 825}, 9.75, true, kBlau, "", kMitteOben, true},
-      {"lblTitel", {60, 900, 5505, 1035}, 9.75, true, kMagenta, "", kMitteOben, true},
-      {{{"Image1", {5460, 60, 315, 315}, "schliessen", "schließen", "Schließen"}, kAbgebrochen},
-       {{"lblNein", {480, 2910, 2205, 375}, "", "Fenster schließen ohne Bestätigung", "Nein"},
-        kNein},
-       {{"lblJa", {3330, 2880, 2175, 435}, "", "Bestätigen", "Ja"}, kJa}},
-      {{Qt::Key_Escape, 0, kAbgebrochen}, {Qt::Key_J, kPlatzJ, kJa}, {Qt::Key_N, kPlatzN, kNein}}};
-  return layout;
-}
+constexpr std::int16_t kOhneAntwort = 0;  ///< Does not change `spiel.Antwort`.
 
-const Meldelayout &LayoutOk() {
-  static const Meldelayout layout{
-      "meldungOk",
-      {0, 0, 5805, 3420},
-      {"lblName", {960, 180, 4155, 435}, 14.25, false, kHellgrau},
-      {60, 780, 5655, 2025},
-      {"lblMeldung", {30, 60, 5445, 825}, 9.75, true, kBlau, "", kMitteOben, true},
-      {"lblTitel", {30, 930, 5505, 1005}, 9.75, true, kPurpur, "", kMitteOben, true},
-      {{{"Image2", {5370, 90, 315, 315}, "schliessen", "schließen", "Schließen"}, kOhneAntwort},
-       {{"lblOk", {1800, 2910, 2175, 405}, "", "Fenster schließen", "OK"}, kOhneAntwort}},
-      {{Qt::Key_Escape, 0, kOhneAntwort}}};
-  return layout;
+constexpr Qt::Alignment kMitteOben = Qt::AlignHCenter | Qt::AlignTop;
+
+// Scan codes, see Tastenplatz().
+constexpr unsigned kPlatzJ = 0x24;
+constexpr unsigned kPlatzN = 0x31;
+
+const Meldelayout kLayoutJa{
+    "meldungJa",
+    {0, 0, 5880, 3540},
+    {"lblName", {930, 180, 3915, 315}, 12, true, kHellgrau},
+    {60, 750, 5745, 2025},
+    {"lblMeldung", {120, 30, 5475, 825}, 9.75, true, kBlau, "", kMitteOben, true},
+    {"lblTitel", {60, 900, 5505, 1035}, 9.75, true, kMagenta, "", kMitteOben, true},
+    {{{"Image1", {5460, 60, 315, 315}, "schliessen", "schließen", "Schließen"}, kAbgebrochen},
+     {{"lblNein", {480, 2910, 2205, 375}, "", "Fenster schließen ohne Bestätigung", "Nein"}, kNein},
+     {{"lblJa", {3330, 2880, 2175, 435}, "", "Bestätigen", "Ja"}, kJa}},
+    {{Qt::Key_Escape, 0, kAbgebrochen}, {Qt::Key_J, kPlatzJ, kJa}, {Qt::Key_N, kPlatzN, kNein}}};
+
+const Meldelayout kLayoutOk{
+    "meldungOk",
+    {0, 0, 5805, 3420},
+    {"lblName", {960, 180, 4155, 435}, 14.25, false, kHellgrau},
+    {60, 780, 5655, 2025},
+    {"lblMeldung", {30, 60, 5445, 825}, 9.75, true, kBlau, "", kMitteOben, true},
+    {"lblTitel", {30, 930, 5505, 1005}, 9.75, true, kPurpur, "", kMitteOben, true},
+    {{{"Image2", {5370, 90, 315, 315}, "schliessen", "schließen", "Schließen"}, kOhneAntwort},
+     {{"lblOk", {1800, 2910, 2175, 405}, "", "Fenster schließen", "OK"}, kOhneAntwort}},
+    {{Qt::Key_Escape, 0, kOhneAntwort}}};
+
+/// True for letters of other alphabets. For those Qt::Key is the Unicode value.
+bool IstFremderBuchstabe(int taste) {
+  constexpr int kEndeLatein = 0x24f;
+  return taste > kEndeLatein && taste <= QChar::LastValidCodePoint;
 }
 
 }  // namespace
@@ -100,7 +88,7 @@ Meldefenster::Meldefenster(const Meldelayout &layout, const Meldung &meldung)
   panel->setGeometry(Rechteck(layout.Picture1));
   panel->setPalette(QPalette(Qt::white));
   panel->setAutoFillBackground(true);
-  panel->setAttribute(Qt::WA_NoMousePropagation);  // The panel is no grip for dragging.
+  panel->setAttribute(Qt::WA_NoMousePropagation);  // A press on the panel does not drag.
   (new Beschriftung(panel, layout.lblMeldung))->ZeigeText(meldung.lblMeldung);
   (new Beschriftung(panel, layout.lblTitel))->ZeigeText(meldung.lblTitel);
 
@@ -132,10 +120,10 @@ void Meldefenster::mousePressEvent(QMouseEvent *ereignis) {
 void Meldefenster::mouseMoveEvent(QMouseEvent *ereignis) {
   if (!griff_ || !(ereignis->buttons() & Qt::LeftButton))
     return;
-  // A second request would make the window manager move the window after the release.
+  // With a second request, the window manager would move the window after the release, too.
   if (windowHandle()->startSystemMove())
     griff_.reset();
-  else  // The window manager cannot.
+  else  // Not supported by the window manager.
     move(ereignis->globalPosition().toPoint() - *griff_);
 }
 
@@ -152,8 +140,8 @@ void Meldefenster::keyPressEvent(QKeyEvent *ereignis) {
   }
 }
 
-frmMsgJa::frmMsgJa(const Meldung &meldung) : Meldefenster(LayoutJa(), meldung) {
+frmMsgJa::frmMsgJa(const Meldung &meldung) : Meldefenster(kLayoutJa, meldung) {
   spiel.Antwort = kAbgebrochen;
 }
 
-frmMsgOk::frmMsgOk(const Meldung &meldung) : Meldefenster(LayoutOk(), meldung) {}
+frmMsgOk::frmMsgOk(const Meldung &meldung) : Meldefenster(kLayoutOk, meldung) {}

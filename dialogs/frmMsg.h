@@ -1,5 +1,3 @@
-/// @file
-/// The two message windows: `frmMsgJa` asks, `frmMsgOk` tells.
 #pragma once
 
 #include <cstdint>
@@ -10,13 +8,13 @@
 
 struct Meldelayout;
 
-/// What both windows have in common: a frameless picture with two texts, which is moved by its
-/// background and its title, and which waits for a key or a click.
+/// Base class of the two message windows: a frameless window with two texts. The mouse can drag it
+/// by its background, except for the white panel.
 class Meldefenster : public Bildfenster {
   Q_OBJECT
 
  public:
-  /// Shows the window over the main window and returns when it has closed.
+  /// Shows the window and returns when it has closed.
   void ZeigeUeber(QWidget *hauptfenster);
 
  protected:
@@ -31,11 +29,10 @@ class Meldefenster : public Bildfenster {
 
   const Meldelayout &layout_;
   Lage lage_;
-  std::optional<QPoint> griff_;  ///< Where the mouse holds the window, in its coordinates.
+  std::optional<QPoint> griff_;  ///< Position of the press that drags the window.
 };
 
-/// A question; `spiel.Antwort` holds the answer when the window has closed. Until the player has
-/// answered it is "cancelled", however the window goes.
+/// A question. Stores the answer in `spiel.Antwort`; it is `kAbgebrochen` until the player answers.
 class frmMsgJa : public Meldefenster {
   Q_OBJECT
 
@@ -43,7 +40,7 @@ class frmMsgJa : public Meldefenster {
   explicit frmMsgJa(const Meldung &meldung);
 };
 
-/// An announcement; leaves `spiel.Antwort` alone.
+/// An announcement. Does not change `spiel.Antwort`.
 class frmMsgOk : public Meldefenster {
   Q_OBJECT
 

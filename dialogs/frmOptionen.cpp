@@ -92,7 +92,7 @@ void frmOptionen::imgSound_Click(bool an) {
 }
 
 void frmOptionen::cmdNehmen_Click() {
-  spiel.SoundAn = SoundWahl;  // The one setting that applies before the confirmation.
+  spiel.SoundAn = SoundWahl;  // Needs no confirmation.
   const int uebersprungen = kLevelJeStufe * LevelWahl;
   if (ansicht_.Frage(FrageAuswahl(uebersprungen + 1, ModusWahl))) {
     SpielAbLevelBeginnen(ansicht_, uebersprungen, ModusWahl);

@@ -1,5 +1,3 @@
-/// @file
-/// The options: where a new game starts, in which mode, and with or without sound.
 #pragma once
 
 #include <array>
@@ -10,11 +8,12 @@
 class Ansicht;
 class Bild;
 
+/// The options window: first level and mode of a new game, and sound on or off.
 class frmOptionen : public Bildfenster {
   Q_OBJECT
 
  public:
-  /// Exists for one use: every opening starts from the first tier, the mode and the sound in force.
+  /// Selects the first tier, the current mode and the current sound setting.
   frmOptionen(QWidget *hauptfenster, Ansicht &ansicht);
 
  private:
@@ -22,7 +21,7 @@ class frmOptionen : public Bildfenster {
   void imgModus_Click(int modus);
   void imgSound_Click(bool an);
   void cmdNehmen_Click();
-  /// Lets the face of the sound show the choice, which is off while there is no device.
+  /// Shows the choice of the sound; off if there is no sound device.
   void ZeigeSound();
 
   Ansicht &ansicht_;

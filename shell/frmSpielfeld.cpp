@@ -32,6 +32,16 @@ const std::vector<Wahlgruppe::Wahleintrag> kModuseintraege{{{4800, 10380, 2175, 
                                                            {{7140, 10380, 2175, 480}, "Normal"},
                                                            {{9450, 10380, 2175, 480}, "Experte"}};
 
+/// A picture button with its handler, and its name in `Ansicht` if that shows and hides it.
+struct Knopfeintrag {
+  Bildeintrag bild;
+  std::function<void(frmSpielfeld &)> klick;
+  std::optional<Bedienung> bedienung = std::nullopt;
+};
+using F = frmSpielfeld;
+using B = Bedienung;
+constexpr auto kKnopf = QAccessible::Button;
+
 // clang-format off
 const std::pair<Pfeil, Bildeintrag> kPfeile[] = {
     {Pfeil::Start, {"imgZeigeStart", {2730, 9300, 360, 495}, "", "",
@@ -39,47 +49,32 @@ const std::pair<Pfeil, Bildeintrag> kPfeile[] = {
     {Pfeil::Weiter, {"imgWeiter", {4140, 10170, 495, 360}, "", "",
                      "Pfeil auf den Knopf", QAccessible::Graphic}},
 };
+
+const std::vector<Knopfeintrag> kKnoepfe{
+    {{"imgOeffnen", {1590, 300, 480, 480}, "spielLaden",
+      "Vorhandene Spieledatei laden", "Spiel laden"}, &F::imgOeffnen_Click, B::imgOeffnen},
+    {{"imgSpeichern", {2160, 300, 480, 480}, "spielSpeichern",
+      "Aktuellen Spielstand speichern", "Spiel speichern"}, &F::imgSpeichern_Click, B::imgSpeichern},
+    {{"lblAnleitung", {240, 1470, 1440, 630}, "cmdHilfeAuswahl",
+      "Spielanleitung", "Hilfe", kKnopf, "cmdHilfeGruen"}, &F::lblAnleitung_Click},
+    {{"lblInfo", {240, 2160, 1440, 630}, "cmdBeschreibungenAuswahl",
+      "Information zum Spiel", "Info", kKnopf, "cmdBeschreibungenFruen"}, &F::lblInfo_Click},
+    {{"imgEinstellungen", {330, 6930, 2865, 630}, "knopfEinstellungen",
+      "Einstellungen des Spieles ändern", "Einstellungen"}, &F::imgEinstellungen_Click},
+    {{"imgNeuesSpiel", {360, 8460, 2865, 630}, "knopfNeuesSpiel",
+      "Neues Spiel starten", "Neues Spiel"}, imgNeuesSpiel_Click},
+    {{"imgEnde", {420, 9210, 2040, 630}, "knopfBeenden",
+      "Spiel beenden", "Beenden"}, imgEnde_Click},
+    {{"imgNextLevel", {1230, 10050, 2865, 630}, "knopfNextLevel",
+      "Start des nächsten Levels", "Nächster Level"}, imgNextLevel_Click, B::imgNextLevel},
+    {{"cmdWiederholen", {1200, 10050, 2865, 630}, "knopfWiederholen",
+      "", "Wiederholen"}, cmdWiederholen_Click, B::cmdWiederholen},
+    {{"imgBester", {10140, 9960, 2865, 630}, "knopfBester",
+      "Eintrag in die Liste der besten Spieler", "Bester Spieler"}, &F::imgBester_Click, B::imgBester},
+};
 // clang-format on
 
 }  // namespace
-
-/// A picture button: its look, its handler, and its name in `Ansicht` if it comes and goes.
-struct frmSpielfeld::Knopfeintrag {
-  Bildeintrag bild;
-  std::function<void(frmSpielfeld &)> klick;
-  std::optional<Bedienung> bedienung = std::nullopt;
-};
-
-const std::vector<frmSpielfeld::Knopfeintrag> &frmSpielfeld::Knopftabelle() {
-  using F = frmSpielfeld;
-  using B = Bedienung;
-  constexpr auto kKnopf = QAccessible::Button;
-  // clang-format off
-  static const std::vector<Knopfeintrag> tabelle{
-      {{"imgOeffnen", {1590, 300, 480, 480}, "spielLaden",
-        "Vorhandene Spieledatei laden", "Spiel laden"}, &F::imgOeffnen_Click, B::imgOeffnen},
-      {{"imgSpeichern", {2160, 300, 480, 480}, "spielSpeichern",
-        "Aktuellen Spielstand speichern", "Spiel speichern"}, &F::imgSpeichern_Click, B::imgSpeichern},
-      {{"lblAnleitung", {240, 1470, 1440, 630}, "cmdHilfeAuswahl",
-        "Spielanleitung", "Hilfe", kKnopf, "cmdHilfeGruen"}, &F::lblAnleitung_Click},
-      {{"lblInfo", {240, 2160, 1440, 630}, "cmdBeschreibungenAuswahl",
-        "Information zum Spiel", "Info", kKnopf, "cmdBeschreibungenFruen"}, &F::lblInfo_Click},
-      {{"imgEinstellungen", {330, 6930, 2865, 630}, "knopfEinstellungen",
-        "Einstellungen des Spieles ändern", "Einstellungen"}, &F::imgEinstellungen_Click},
-      {{"imgNeuesSpiel", {360, 8460, 2865, 630}, "knopfNeuesSpiel",
-        "Neues Spiel starten", "Neues Spiel"}, imgNeuesSpiel_Click},
-      {{"imgEnde", {420, 9210, 2040, 630}, "knopfBeenden",
-        "Spiel beenden", "Beenden"}, imgEnde_Click},
-      {{"imgNextLevel", {1230, 10050, 2865, 630}, "knopfNextLevel",
-        "Start des nächsten Levels", "Nächster Level"}, imgNextLevel_Click, B::imgNextLevel},
-      {{"cmdWiederholen", {1200, 10050, 2865, 630}, "knopfWiederholen",
-        "", "Wiederholen"}, cmdWiederholen_Click, B::cmdWiederholen},
-      {{"imgBester", {10140, 9960, 2865, 630}, "knopfBester",
-        "Eintrag in die Liste der besten Spieler", "Bester Spieler"}, &F::imgBester_Click, B::imgBester},
-  };
-  // clang-format on
-  return tabelle;
-}
 
 frmSpielfeld::frmSpielfeld() {
   setWindowTitle(QString::fromStdString(Versionstext()));
@@ -113,7 +108,7 @@ void frmSpielfeld::Zentriere() {
 }
 
 void frmSpielfeld::KnoepfeAufbauen(QWidget *flaeche) {
-  for (const Knopfeintrag &knopf : Knopftabelle()) {
+  for (const Knopfeintrag &knopf : kKnoepfe) {
     auto *bild = new Bild(flaeche, knopf.bild);
     bild->SetzeKlick([this, klick = knopf.klick] { klick(*this); });
     if (knopf.bedienung)
@@ -175,7 +170,7 @@ bool frmSpielfeld::Frage(const Meldung &meldung) {
 }
 
 void frmSpielfeld::BestenlistePruefen() {
-  Bestenfenster();  // Making the window reads the list from the file.
+  Bestenfenster();  // Creating the window reads the list from the file.
   ::BestenlistePruefen(*this);
 }
 
@@ -199,7 +194,7 @@ bool frmSpielfeld::event(QEvent *ereignis) {
 
 void frmSpielfeld::showEvent(QShowEvent *ereignis) {
   QMainWindow::showEvent(ereignis);
-  QTimer::singleShot(0, this, [this] {  // Meanwhile the window manager makes the frame.
+  QTimer::singleShot(0, this, [this] {  // Runs while the window manager makes the frame.
     LadeSpielbilder(devicePixelRatioF());
     std::ranges::for_each(findChildren<Bild *>(), &Bild::LadeVor);
   });
@@ -207,7 +202,7 @@ void frmSpielfeld::showEvent(QShowEvent *ereignis) {
 
 void frmSpielfeld::moveEvent(QMoveEvent *ereignis) {
   QMainWindow::moveEvent(ereignis);
-  // The size of the frame is known only after the window manager has made it.
+  // The size of the frame is unknown until the window manager has made it.
   if (!mitRahmenZentriert_ && frameGeometry() != geometry()) {
     mitRahmenZentriert_ = true;
     Zentriere();
@@ -264,7 +259,7 @@ void frmSpielfeld::imgEinstellungen_Click() {
   frmOptionen optionen(this, *this);
   optionen.Platziere(this, Lage::LinksOben);
   optionen.exec();
-  activateWindow();  // Some window managers lose the focus when two windows close at once.
+  activateWindow();  // With two windows closed at once, some window managers lose the focus.
 }
 
 void frmSpielfeld::imgBester_Click() {

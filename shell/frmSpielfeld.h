@@ -1,5 +1,3 @@
-/// @file
-/// The main window: board, panel, buttons and menu. It implements the screen for the rules.
 #pragma once
 
 #include <QMainWindow>
@@ -17,19 +15,19 @@
 #include "shell/panel.h"
 #include "shell/spielbrett.h"
 
-/// The client area of the main window: 878 by 729 pixels at full scale.
+/// The client area of the main window: 878 by 729 pixels at scale factor 1.
 inline constexpr Twips kClientflaeche{0, 0, 13170, 10935};
 
+/// The main window: board, panel, buttons and menu. It implements the screen for the rules.
 class frmSpielfeld final : public QMainWindow, public Ansicht {
   Q_OBJECT
 
  public:
   frmSpielfeld();
 
-  /// Shows the face of the current mode as chosen.
+  /// Shows the current mode as selected.
   void ZeigeModuswahl() { imgModus_->Waehle(spiel.Spielmodus); }
-  /// The window of the best list. It is made at its first use, and anew after its closing box has
-  /// deleted it.
+  /// The window of the best list. It is created when it does not exist.
   frmBeste &Bestenfenster();
 
   // Handlers of buttons and menu entries.
@@ -77,12 +75,9 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   bool focusNextPrevChild(bool vorwaerts) override;
 
  private:
-  struct Knopfeintrag;
-  static const std::vector<Knopfeintrag> &Knopftabelle();
-
   void KnoepfeAufbauen(QWidget *flaeche);
   void PfeileAufbauen(QWidget *flaeche);
-  /// Centres the window on its screen. The frame counts once its size is known.
+  /// Centres the window with its frame on its screen.
   void Zentriere();
   void Form_Unload();
 

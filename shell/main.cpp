@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Replaces Qt's messages about the screens that it tries, and its abort if there is none.
+/// Without a screen, prints one line instead of Qt's messages and its abort.
 void SagWasFehlt(QtMsgType art, const QMessageLogContext &, const QString &) {
   if (art != QtFatalMsg)
     return;

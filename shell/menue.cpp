@@ -29,7 +29,7 @@ constexpr const char *kSound = "mnuSound";  ///< The entry with the submenu.
 
 std::vector<Kopf> Tabelle() {
   using F = frmSpielfeld;
-  // The blanks at the end of two captions keep the heads of the menus apart.
+  // Trailing blanks put space between the titles of the menus.
   return {
       {"mnuMenue1",
        "&Spiel                     ",
@@ -53,7 +53,7 @@ std::vector<Kopf> Tabelle() {
   };
 }
 
-/// The choice of the submenu: `mnusoundan1` on, `mnusoundan2` off.
+/// The submenu with `mnusoundan1` (on) and `mnusoundan2` (off).
 QAction *BaueSoundmenue(QMenu *menue) {
   QMenu *untermenue = menue->addMenu("Sound");
   QAction *mnuSound = untermenue->menuAction();

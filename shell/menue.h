@@ -1,10 +1,8 @@
-/// @file
-/// The menu bar of the main window.
+// The menu bar of the main window.
 #pragma once
 
 class frmSpielfeld;
 
-/// Fills the menu bar. Each entry is a `QAction` that bears its described name, such as
-/// `mnuSpiel2`. All of them are disabled while a window that waits for an answer blocks the main
-/// window.
+/// Fills the menu bar. Each entry is a `QAction` with an object name such as `mnuSpiel2`. The
+/// entries with a handler are in a `QActionGroup`, which is disabled while a modal window is open.
 void BaueMenue(frmSpielfeld &fenster);

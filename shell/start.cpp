@@ -24,9 +24,8 @@
 
 namespace {
 
-constexpr QSize kRahmen(16, 61);  ///< Pixels for the frame and the menu bar, which do not shrink.
-constexpr QSize kLeiste(0, 48);   ///< Height of a desktop panel. Wayland does not report it.
-
+constexpr QSize kRahmen(16, 61);  ///< Pixels of the frame and the menu bar, which are not scaled.
+constexpr QSize kLeiste(0, 48);   ///< Assumed size of a desktop panel; Wayland does not report it.
 constexpr double kMenueschrift = 9.75;  ///< Points at 96 dpi.
 
 }  // namespace
@@ -40,7 +39,7 @@ double Schrumpffaktor() {
 }
 
 void RichteAnwendungEin(QApplication &anwendung) {
-  // Menus, tool tips and file dialogs have the game's look on every desktop.
+  // Menus, tool tips and file dialogs look the same on every desktop.
   QApplication::setStyle("Fusion");
   QApplication::setPalette(Steinpalette());
   QToolTip::setPalette(Steinpalette());
@@ -50,7 +49,8 @@ void RichteAnwendungEin(QApplication &anwendung) {
   if (uebersetzung->load(":/uebersetzung/qtbase_de.qm"))
     QApplication::installTranslator(uebersetzung);
   anwendung.installEventFilter(new Tastenwache(&anwendung));
-  // winId() of a message window would make native windows of the main window's children.
+  // Otherwise winId() of a message window turns the children of the main window into native
+  // windows.
   QApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
   // A native menu bar would wait for the session bus.
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
@@ -70,11 +70,11 @@ void Main(frmSpielfeld &fenster, const QString &datenwurzel) {
     BestenlisteAnlegen();
   BestenlisteLaden(fenster);
   WarteAufSpiel(fenster);
-  if (!IstWayland()) {  // The cover first: the main window must end up above it.
+  if (!IstWayland()) {  // Shown before the main window, which must be above it.
     auto *hintergrund = new frmHintergrund(&fenster);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, hintergrund, &QObject::deleteLater);
     hintergrund->show();
   }
   fenster.show();
-  fenster.raise();  // Without a window manager the order of creation decides.
+  fenster.raise();  // Without a window manager, windows are stacked in order of creation.
 }

@@ -1,20 +1,18 @@
-/// @file
-/// The start of the program.
+// The start of the program.
 #pragma once
 
 class QApplication;
 class QString;
 class frmSpielfeld;
 
-/// The scale of all windows at which the main window fits on the primary screen; at most 1. Needs
-/// Massstab() to be 1.
+/// The scale factor at which the main window fits on the primary screen, at most 1. Call it while
+/// Massstab() is 1.
 double Schrumpffaktor();
 
-/// Sets language, style, palette, font, icon, key filter and accessibility of the application, so
-/// that they depend neither on the desktop nor on its language.
+/// Sets language, style, palette, font, icon, event filter and accessibility, independent of the
+/// settings of the desktop.
 void RichteAnwendungEin(QApplication &anwendung);
 
-/// Settles the data folder, reads settings and best list, and shows the windows in the waiting
-/// state.
+/// Sets the data folder, reads settings and best list, and shows the windows.
 /// @param datenwurzel   the parent of the data folder; empty if the system has none.
 void Main(frmSpielfeld &fenster, const QString &datenwurzel);
