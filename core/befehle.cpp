@@ -33,7 +33,7 @@ void WarteAufSpiel(Ansicht &ansicht) {
 }
 
 void imgNeuesSpiel_Click(Ansicht &ansicht) {
-  if (spiel.Punkte != 0 && !ansicht.Frage(FrageNeuesSpiel()))
+  if (spiel.Punkte != 0 && !ansicht.Frage(FrageNeuesSpiel))
     return;
   RaeumeLevelende(ansicht);
   ansicht.SetzeModustext(Moduszeile(2));
@@ -66,7 +66,7 @@ void cmdWiederholen_Click(Ansicht &ansicht) {
 }
 
 void imgEnde_Click(Ansicht &ansicht) {
-  if (spiel.Punkte == 0 || ansicht.Frage(FrageBeenden()))
+  if (spiel.Punkte == 0 || ansicht.Frage(FrageBeenden))
     ansicht.BeendeDasSpiel();
 }
 

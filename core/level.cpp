@@ -63,9 +63,9 @@ void FuelleBrett() {
 
 /// After level 40: shows the closing messages, offers the best list, and ends the process.
 void SpielZuEnde(Ansicht &ansicht) {
-  ansicht.Melde(MeldungSpielBeendet());
+  ansicht.Melde(MeldungSpielBeendet);
   ansicht.BestenlistePruefen();
-  ansicht.Melde(MeldungVielenDank());
+  ansicht.Melde(MeldungVielenDank);
   spiel.Punkte = 0;
   ansicht.BeendeDasSpiel();
 }

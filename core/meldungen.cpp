@@ -22,12 +22,10 @@ std::string Moduszeile(int leerzeichen) {
          " Saranten auf dem Spielfeld.";
 }
 
-Meldung FrageNeuesSpiel() {
-  return {kSoundBlip,
-          "Es läuft bereits ein aktuelles Spiel.\r\nSind Sie sicher,\r\n"
-          "dass Sie ein neues Spiel beginnen möchten?",
-          "\r\n»Neues Spiel« bestätigen"};
-}
+const Meldung FrageNeuesSpiel{kSoundBlip,
+                              "Es läuft bereits ein aktuelles Spiel.\r\nSind Sie sicher,\r\n"
+                              "dass Sie ein neues Spiel beginnen möchten?",
+                              "\r\n»Neues Spiel« bestätigen"};
 
 Meldung FrageEinstellungen() {
   return {kSoundFrage,
@@ -37,12 +35,10 @@ Meldung FrageEinstellungen() {
           "\r\n»Einstellungen ändern« bestätigen"};
 }
 
-Meldung FrageBeenden() {
-  return {kSoundBlip,
-          "Es läuft bereits ein aktuelles Spiel.\r\nSind Sie sicher,\r\n"
-          "dass Sie das Spiel beenden möchten?",
-          "\r\n»Spiel beenden« bestätigen"};
-}
+const Meldung FrageBeenden{kSoundBlip,
+                           "Es läuft bereits ein aktuelles Spiel.\r\nSind Sie sicher,\r\n"
+                           "dass Sie das Spiel beenden möchten?",
+                           "\r\n»Spiel beenden« bestätigen"};
 
 Meldung FrageSucheSpielstand() {
   return {kSoundFrage,
@@ -58,15 +54,13 @@ Meldung FrageLaden(int level, int modus, const std::string &punkte) {
           "\r\n»Spiel starten« bestätigen"};
 }
 
-Meldung FrageBesteneintrag() {
-  return {kSoundStart, "Sehr gut!!\r\nSie haben eine neue Bestmarke erreicht.",
-          "Möchten Sie sich in die Liste der »Besten Spieler« eintragen?"};
-}
+const Meldung FrageBesteneintrag{kSoundStart,
+                                 "Sehr gut!!\r\nSie haben eine neue Bestmarke erreicht.",
+                                 "Möchten Sie sich in die Liste der »Besten Spieler« eintragen?"};
 
-Meldung FrageEintraegeLoeschen() {
-  return {kSoundFrage, "\r\nSind Sie sicher,\r\ndass Sie alle Einträge löschen möchten?",
-          "\r\n»Einträge löschen« bestätigen"};
-}
+const Meldung FrageEintraegeLoeschen{
+    kSoundFrage, "\r\nSind Sie sicher,\r\ndass Sie alle Einträge löschen möchten?",
+    "\r\n»Einträge löschen« bestätigen"};
 
 Meldung FrageAuswahl(int level, int modus) {
   return {kSoundFrage,
@@ -75,42 +69,36 @@ Meldung FrageAuswahl(int level, int modus) {
           "\r\n»Auswahl« bestätigen"};
 }
 
-Meldung MeldungSpielBeendet() {
-  return {kSoundTada, "Das Spiel ist beendet!\r\nSie haben alle Level erfolgreich gespielt.",
-          "Es wird geprüft,\r\nob Sie sich in die Liste der Besten Spieler eintragen können.",
-          Lage::RechtsUnten};
-}
+const Meldung MeldungSpielBeendet{
+    kSoundTada, "Das Spiel ist beendet!\r\nSie haben alle Level erfolgreich gespielt.",
+    "Es wird geprüft,\r\nob Sie sich in die Liste der Besten Spieler eintragen können.",
+    Lage::RechtsUnten};
 
-Meldung MeldungVielenDank() {
-  return {kKeinSound, "\r\nVielen Dank!\r\nSie haben Glanzgrube erfolgreich beendet.",
-          "\r\nBesuchen Sie auch meine Homepage.\r\nwww.glanzgrube.example", Lage::RechtsUnten};
-}
+const Meldung MeldungVielenDank{
+    kKeinSound, "\r\nVielen Dank!\r\nSie haben Glanzgrube erfolgreich beendet.",
+    "\r\nBesuchen Sie auch meine Homepage.\r\nwww.glanzgrube.example", Lage::RechtsUnten};
 
-Meldung MeldungInfo() {
-  return {kSoundBlip,
-          "Spielidee und Programmierung:\r\nSpielewerkstatt Silbergrund\r\nwww.silbergrund.example",
-          "Grafik:\r\nAtelier am Mühlgraben\r\nwww.muehlgraben.example"};
-}
+const Meldung MeldungInfo{
+    kSoundBlip,
+    "Spielidee und Programmierung:\r\nSpielewerkstatt Silbergrund\r\nwww.silbergrund.example",
+    "Grafik:\r\nAtelier am Mühlgraben\r\nwww.muehlgraben.example"};
 
-Meldung MeldungKeineFestplatte() {
-  return {kSoundFehler, "\r\nDie Festplatte auf Ihrem System wurde nicht erkannt!",
-          "\r\nEin Speichern von Daten ist leider nicht möglich"};
-}
+const Meldung MeldungKeineFestplatte{kSoundFehler,
+                                     "\r\nDie Festplatte auf Ihrem System wurde nicht erkannt!",
+                                     "\r\nEin Speichern von Daten ist leider nicht möglich"};
 
-Meldung MeldungOrdnerFehlgeschlagen() {
-  return {kSoundFehler, "\r\nDas Anlegen des Ordners für die Daten ist fehlgeschlagen!",
-          "\r\nDie Daten für die Stastitik\r\nkönnen nicht gespeichert werden!"};
-}
+const Meldung MeldungOrdnerFehlgeschlagen{
+    kSoundFehler, "\r\nDas Anlegen des Ordners für die Daten ist fehlgeschlagen!",
+    "\r\nDie Daten für die Stastitik\r\nkönnen nicht gespeichert werden!"};
 
 Meldung MeldungFalscherDateityp(const std::string &dateititel) {
   return {kSoundFehler, "Die gewählte Datei\r\n" + dateititel + "\r\nist keine Spieledatei!",
           "\r\nFalscher Dateitype"};
 }
 
-Meldung MeldungKeinDateiname() {
-  return {kSoundFehler, "\r\nSie haben keinen gültigen Dateinamen eingeben.",
-          "\r\nKein gültiger Dateiname"};
-}
+const Meldung MeldungKeinDateiname{kSoundFehler,
+                                   "\r\nSie haben keinen gültigen Dateinamen eingeben.",
+                                   "\r\nKein gültiger Dateiname"};
 
 Meldung MeldungLesefehler(int fehlernummer) {
   return {kSoundFehler, "Fehler beim Lesen der Datei.\r\nSpielstand konnten nicht geladen werden.",
@@ -122,22 +110,19 @@ Meldung MeldungSchreibfehler(int fehlernummer) {
           "\r\nFehlernummer: " + std::to_string(fehlernummer)};
 }
 
-Meldung MeldungKeinBesteneintrag() {
-  return {kSoundBlip, "Ein Eintrag in die Liste der »Besten Spieler«\r\nist leider nicht möglich!",
-          "Mehr Erfolg beim nächsten »Spiel«."};
-}
+const Meldung MeldungKeinBesteneintrag{
+    kSoundBlip, "Ein Eintrag in die Liste der »Besten Spieler«\r\nist leider nicht möglich!",
+    "Mehr Erfolg beim nächsten »Spiel«."};
 
 Meldung MeldungBesteNichtGelesen(int fehlernummer) {
   return {kSoundFehler, "Die Daten für »Beste Spieler«\r\nkonnten nicht gelesen werden!",
           "Fehlernummer: " + std::to_string(fehlernummer)};
 }
 
-Meldung MeldungBesteNichtGespeichert() {
-  return {kSoundFrage, "Die Werte für »Beste Spieler«\r\nkonnten nicht gespeichert werden.",
-          "\r\nFehler beim Speichern"};
-}
+const Meldung MeldungBesteNichtGespeichert{
+    kSoundFrage, "Die Werte für »Beste Spieler«\r\nkonnten nicht gespeichert werden.",
+    "\r\nFehler beim Speichern"};
 
-Meldung MeldungKeineSoundkarte() {
-  return {kSoundFrage, "\r\nEs wurde keine Soundkarte,\r\nauf Ihren System erkannt",
-          "\r\n»Soundeffekt an« ist nicht möglich!"};
-}
+const Meldung MeldungKeineSoundkarte{kSoundFrage,
+                                     "\r\nEs wurde keine Soundkarte,\r\nauf Ihren System erkannt",
+                                     "\r\n»Soundeffekt an« ist nicht möglich!"};

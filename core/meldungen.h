@@ -31,31 +31,31 @@ struct Meldung {
 const std::string &Versionstext();
 
 // Questions. The answer is left in `spiel.Antwort`.
-Meldung FrageNeuesSpiel();
+extern const Meldung FrageNeuesSpiel;
 Meldung FrageEinstellungen();
-Meldung FrageBeenden();
+extern const Meldung FrageBeenden;
 Meldung FrageSucheSpielstand();
 /// @param level   the level to start, @param punkte the second line of the file, unchanged.
 Meldung FrageLaden(int level, int modus, const std::string &punkte);
-Meldung FrageBesteneintrag();
-Meldung FrageEintraegeLoeschen();
+extern const Meldung FrageBesteneintrag;
+extern const Meldung FrageEintraegeLoeschen;
 /// @param level   the first level of the chosen tier.
 Meldung FrageAuswahl(int level, int modus);
 
 // Announcements.
-Meldung MeldungSpielBeendet();
-Meldung MeldungVielenDank();
-Meldung MeldungInfo();
-Meldung MeldungKeineFestplatte();
-Meldung MeldungOrdnerFehlgeschlagen();
+extern const Meldung MeldungSpielBeendet;
+extern const Meldung MeldungVielenDank;
+extern const Meldung MeldungInfo;
+extern const Meldung MeldungKeineFestplatte;
+extern const Meldung MeldungOrdnerFehlgeschlagen;
 Meldung MeldungFalscherDateityp(const std::string &dateititel);
-Meldung MeldungKeinDateiname();
+extern const Meldung MeldungKeinDateiname;
 Meldung MeldungLesefehler(int fehlernummer);
 Meldung MeldungSchreibfehler(int fehlernummer);
-Meldung MeldungKeinBesteneintrag();
+extern const Meldung MeldungKeinBesteneintrag;
 Meldung MeldungBesteNichtGelesen(int fehlernummer);
-Meldung MeldungBesteNichtGespeichert();
-Meldung MeldungKeineSoundkarte();
+extern const Meldung MeldungBesteNichtGespeichert;
+extern const Meldung MeldungKeineSoundkarte;
 
 // Texts of `lblModus`.
 /// The text of a running game. @param leerzeichen   blanks after the colon, two or three.

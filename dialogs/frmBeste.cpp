@@ -170,9 +170,9 @@ void frmBeste::cmdEnde_Click() {
 void frmBeste::cmdClear_Click() {
   spiel.Beste.BestenEintrag = false;
   const auto jemand = [](const QLineEdit *name) { return name->text().toStdString() != kNiemand; };
-  if (std::ranges::any_of(txtSpieler_, jemand) && ansicht_.Frage(FrageEintraegeLoeschen())) {
+  if (std::ranges::any_of(txtSpieler_, jemand) && ansicht_.Frage(FrageEintraegeLoeschen)) {
     if (!BestenlisteAnlegen())
-      ansicht_.Melde(MeldungBesteNichtGespeichert());
+      ansicht_.Melde(MeldungBesteNichtGespeichert);
     BestenlisteLaden(ansicht_);
   }
   hide();

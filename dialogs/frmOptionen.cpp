@@ -84,7 +84,7 @@ void frmOptionen::imgModus_Click(int modus) {
 
 void frmOptionen::imgSound_Click(bool an) {
   if (an && !SoundGeraetDa()) {
-    ansicht_.Melde(MeldungKeineSoundkarte());
+    ansicht_.Melde(MeldungKeineSoundkarte);
     return;
   }
   SoundWahl = an;

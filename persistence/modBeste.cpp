@@ -85,7 +85,7 @@ void BestenlisteSpeichern(Ansicht &ansicht) {
   if (SchreibeZeilen(BestenlistePfad(), zeilen) == Dateifehler::Keiner)
     spiel.Bestenschwelle = PunkteWert(beste.lstPunkte.back());
   else
-    ansicht.Melde(MeldungBesteNichtGespeichert());
+    ansicht.Melde(MeldungBesteNichtGespeichert);
 }
 
 void BestenlistePruefen(Ansicht &ansicht) {
@@ -96,10 +96,10 @@ void BestenlistePruefen(Ansicht &ansicht) {
     if (spiel.Punkte > PunkteWert(Eintrag(beste.lstPunkte, platz)))
       beste.BestenPlatz = platz;
   if (beste.BestenPlatz < 0) {
-    ansicht.Melde(MeldungKeinBesteneintrag());
+    ansicht.Melde(MeldungKeinBesteneintrag);
     return;
   }
-  beste.BestenEintrag = ansicht.Frage(FrageBesteneintrag());
+  beste.BestenEintrag = ansicht.Frage(FrageBesteneintrag);
   if (beste.BestenEintrag)
     BestenlisteEintragen(ansicht);
 }

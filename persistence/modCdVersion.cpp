@@ -19,7 +19,7 @@ QString Dialogordner() {
 
 void LegeDatenordnerFest(Ansicht &ansicht, const QString &wurzel) {
   if (wurzel.isEmpty()) {
-    ansicht.Melde(MeldungKeineFestplatte());
+    ansicht.Melde(MeldungKeineFestplatte);
     return;
   }
   const QString ordner = MitBackslash(wurzel) + "nachtkammern";
@@ -33,5 +33,5 @@ void LegeDatenordnerAn(Ansicht &ansicht, const QString &pfad) {
   if (QDir().mkdir(pfad))
     spiel.DatenordnerAktiv = true;
   else
-    ansicht.Melde(MeldungOrdnerFehlgeschlagen());
+    ansicht.Melde(MeldungOrdnerFehlgeschlagen);
 }

@@ -239,7 +239,7 @@ void frmSpielfeld::imgOeffnen_Click() {
 void frmSpielfeld::imgSpeichern_Click() {
   const QString pfad = DateiSpeichernDialog(this, Dialogordner());
   if (pfad.isEmpty())
-    Melde(MeldungKeinDateiname());
+    Melde(MeldungKeinDateiname);
   else
     SpeichereSpielstand(*this, MitEndung(pfad));
 }

@@ -37,7 +37,7 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void imgEinstellungen_Click();
   void imgBester_Click();
   void lblAnleitung_Click() { OeffneHilfe("saranten.pdf"); }
-  void lblInfo_Click() { Melde(MeldungInfo()); }
+  void lblInfo_Click() { Melde(MeldungInfo); }
   void mnuInfo4_Click();
 
   Kachel LiesKachel(int zelle) const override { return Picture1_->Zelle(zelle).LiesKachel(); }

@@ -276,7 +276,7 @@ TEST_F(Rules, BehindTheLastLevelTheGameEnds) {
     EXPECT_EQ(screen.IstSichtbar(Bedienung::imgBester), level == kLetztesLevel - 1);
   }
   ASSERT_EQ(screen.messages.size(), 2U);
-  EXPECT_EQ(screen.messages[1].lblMeldung, MeldungVielenDank().lblMeldung);
+  EXPECT_EQ(screen.messages[1].lblMeldung, MeldungVielenDank.lblMeldung);
   EXPECT_EQ(screen.checksOfBest, 1);
   EXPECT_EQ(spiel.Punkte, 0);
   EXPECT_TRUE(screen.ended);

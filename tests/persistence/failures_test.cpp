@@ -59,7 +59,7 @@ class Failure : public DataFixture {
     SpeichereSpielstand(screen, sar);
     ExpectMessage(MeldungSchreibfehler(number));
     BestenlisteSpeichern(screen);
-    ExpectMessage(MeldungBesteNichtGespeichert());
+    ExpectMessage(MeldungBesteNichtGespeichert);
     EXPECT_EQ(spiel.Bestenschwelle, 77);
     SchreibeIni();
     BestenlisteAnlegen();

@@ -114,9 +114,9 @@ class BestList : public DataFixture {
 
 TEST_F(BestList, OnlyAnAcceptedPlaceIsAnEntry) {
   Offer(13000, kJa);
-  ExpectMessage(MeldungKeinBesteneintrag());
+  ExpectMessage(MeldungKeinBesteneintrag);
   Offer(13001, kNein);
-  ExpectMessage(FrageBesteneintrag());
+  ExpectMessage(FrageBesteneintrag);
   EXPECT_EQ(spiel.Beste.BestenPlatz, 4);
   EXPECT_FALSE(spiel.Beste.BestenEintrag);
 }

@@ -27,7 +27,7 @@ TEST_F(Messages, CloseByAnAnswerOnly) {
         window.close();  // As the desktop does it.
     });
     spiel.Antwort = kJa;
-    EXPECT_EQ(board->Frage(FrageBeenden()), answer == kJa) << button;
+    EXPECT_EQ(board->Frage(FrageBeenden), answer == kJa) << button;
     EXPECT_EQ(spiel.Antwort, answer) << button;
   }
 }
@@ -42,7 +42,7 @@ TEST_F(Messages, TakeAKeyByItsPlaceWhereTheAlphabetHasNoLatinLetters) {
       }
       window.close();
     });
-    board->Frage(FrageBeenden());
+    board->Frage(FrageBeenden);
     EXPECT_EQ(spiel.Antwort, answer);
   }
 }
@@ -57,12 +57,12 @@ TEST_F(Messages, StandInTheirPlaceAndLetTheArrowBlink) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return arrow->Bildname() != before; }, 2000));
     window.close();
   });
-  board->Frage(FrageNeuesSpiel());
+  board->Frage(FrageNeuesSpiel);
   Then<frmMsgOk>([&](frmMsgOk &window) {
     EXPECT_EQ(window.pos(), main.topLeft() + QPoint(7, 7));
     window.close();
   });
-  board->Melde(MeldungVielenDank());
+  board->Melde(MeldungVielenDank);
   Click("imgNeuesSpiel");
   Lose();
   const Bild *arrow = Find(*board, "imgWeiter");
@@ -237,7 +237,7 @@ TEST_F(BestWindow, AShortListIsFullAfterOkAndWhatWasNotClearedIsTold) {
   QFile::remove(DataFile("sarant.txt"));
   QDir().mkdir(DataFile("sarant.txt"));
   ThenAnswer("J");
-  ThenMessage(MeldungBesteNichtGespeichert());
+  ThenMessage(MeldungBesteNichtGespeichert);
   ThenMessage(MeldungBesteNichtGelesen(2));
   ASSERT_FALSE(Find(Window(), "lblClear")->isHidden());
   Click(Find(Window(), "lblClear"));

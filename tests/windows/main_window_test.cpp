@@ -36,7 +36,7 @@ TEST_F(MainWindow, StandsInTheMiddleBeforeACoverThatBringsItBack) {
     EXPECT_TRUE(window.isActiveWindow());
     window.close();
   });
-  board->Frage(FrageBeenden());
+  board->Frage(FrageBeenden);
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
 }
 
@@ -68,7 +68,7 @@ TEST_F(MainWindow, ReleasesThePressedButtonWhenAQuestionComes) {
   QTest::mousePress(button, Qt::LeftButton);
   EXPECT_EQ(button->Bildname(), "cmdBeschreibungenFruen");
   ThenAnswer("N");
-  board->Frage(FrageNeuesSpiel());
+  board->Frage(FrageNeuesSpiel);
   EXPECT_EQ(button->Bildname(), "cmdBeschreibungenAuswahl");
 }
 
@@ -97,7 +97,7 @@ TEST_F(MainWindow, LetsOnlyThoseActWithoutAMouseWhomAMouseReaches) {
     EXPECT_TRUE(window.isVisible());
     Press(window, "N");
   });
-  board->Frage(FrageNeuesSpiel());
+  board->Frage(FrageNeuesSpiel);
   EXPECT_EQ(spiel.SarantenRest, 75 - spiel.Startfelder);
   EXPECT_EQ(spiel.Fehler, 0);
   EXPECT_TRUE(spiel.SoundAn);

@@ -18,17 +18,17 @@ namespace {
 
 // clang-format off
 std::vector<Meldung> Questions() {
-  return {FrageNeuesSpiel(), FrageEinstellungen(), FrageBeenden(), FrageSucheSpielstand(),
-          FrageLaden(40, 3, "2147483647"), FrageBesteneintrag(), FrageEintraegeLoeschen(),
+  return {FrageNeuesSpiel, FrageEinstellungen(), FrageBeenden, FrageSucheSpielstand(),
+          FrageLaden(40, 3, "2147483647"), FrageBesteneintrag, FrageEintraegeLoeschen,
           FrageAuswahl(26, 3)};
 }
 
 std::vector<Meldung> Announcements() {
-  return {MeldungSpielBeendet(), MeldungVielenDank(), MeldungInfo(), MeldungKeineFestplatte(),
-          MeldungOrdnerFehlgeschlagen(), MeldungFalscherDateityp("stand.txt"),
-          MeldungKeinDateiname(), MeldungLesefehler(8), MeldungSchreibfehler(8),
-          MeldungKeinBesteneintrag(), MeldungBesteNichtGelesen(8), MeldungBesteNichtGespeichert(),
-          MeldungKeineSoundkarte()};
+  return {MeldungSpielBeendet, MeldungVielenDank, MeldungInfo, MeldungKeineFestplatte,
+          MeldungOrdnerFehlgeschlagen, MeldungFalscherDateityp("stand.txt"),
+          MeldungKeinDateiname, MeldungLesefehler(8), MeldungSchreibfehler(8),
+          MeldungKeinBesteneintrag, MeldungBesteNichtGelesen(8), MeldungBesteNichtGespeichert,
+          MeldungKeineSoundkarte};
 }
 // clang-format on
 
@@ -101,7 +101,7 @@ QString Describe(QWidget &element) {
 
 TEST_F(Screens, AllStandsAsTheInventoryTells) {
   QStringList lines;
-  EachWindow({FrageBeenden()}, {MeldungInfo()}, [&](QWidget &window) {
+  EachWindow({FrageBeenden}, {MeldungInfo}, [&](QWidget &window) {
     window.grab();
     const int loaded = GeladeneBilder();
     window.grab();
