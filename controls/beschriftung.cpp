@@ -4,12 +4,6 @@
 
 #include "palette.h"
 
-namespace {
-
-constexpr double kKleinsteSchrift = 0.85;  ///< Part of the full size that is still easy to read.
-
-}  // namespace
-
 QPalette Steinpalette() {
   QPalette palette{QColor(kStein)};
   for (const auto grund : {QPalette::Base, QPalette::ToolTipBase})
@@ -43,7 +37,8 @@ Beschriftung::Beschriftung(QWidget *eltern, const Texteintrag &eintrag)
 
 void Beschriftung::ZeigeText(const std::string &text) {
   const QString ganz = QString::fromStdString(text).remove('\r');
-  const int kleinste = static_cast<int>(schrift_.pixelSize() * kKleinsteSchrift);
+  constexpr double kKleinste = 0.85;  // Part of the full size that is still easy to read.
+  const int kleinste = static_cast<int>(schrift_.pixelSize() * kKleinste);
   QFont schrift = schrift_;
   setFont(schrift);
   while (!Passt(Umbrochen(ganz)) && schrift.pixelSize() > kleinste) {

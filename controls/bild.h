@@ -39,7 +39,7 @@ class Bild : public QWidget {
   /// Shows a picture of the catalogue; an empty name shows nothing.
   void SetzeBild(const QString &name);
   /// The name of the picture that is shown.
-  virtual QString Bildname() const;
+  QString Bildname() const;
 
   /// Decodes the pictures of the control before they are needed.
   void LadeVor() const;

@@ -6,8 +6,7 @@ Wahlgruppe::Wahlgruppe(QWidget *eltern, const Wahlart &art,
                        const std::vector<Wahleintrag> &eintraege,
                        const std::function<void(int)> &klick)
     : ersterIndex_(art.ersterIndex) {
-  int index = art.ersterIndex;
-  for (const Wahleintrag &eintrag : eintraege) {
+  for (int index = art.ersterIndex; const Wahleintrag &eintrag : eintraege) {
     const auto NeuesBild = [&](const char *wahl, const char *tooltip) {
       const QByteArray zusatz = wahl + QByteArray::number(index);
       const QByteArray name = art.name + zusatz;
@@ -24,8 +23,7 @@ Wahlgruppe::Wahlgruppe(QWidget *eltern, const Wahlart &art,
 }
 
 void Wahlgruppe::Waehle(int index) {
-  int i = ersterIndex_;
-  for (const Paar &paar : paare_) {
+  for (int i = ersterIndex_; const Paar &paar : paare_) {
     paar.normal->setVisible(i != index);
     paar.gewaehlt->setVisible(i == index);
     ++i;

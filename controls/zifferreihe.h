@@ -13,8 +13,7 @@ class Zifferreihe : public QWidget {
 
  public:
   /// @param ecke   left and top of the row, @param stellen number of digits.
-  /// @param ansage a screen reader says this before the digits, @param rot and this before red
-  /// ones.
+  /// @param ansage   what a screen reader says before the digits, @param rot and before red ones.
   Zifferreihe(QWidget *eltern, const Twips &ecke, int stellen, const QString &ansage,
               const QString &rot = "");
 

@@ -31,12 +31,9 @@ class Zugang : public QAccessibleWidget {
 
  private:
   QList<QWidget *> Kinder() const {
-    QList<QWidget *> kinder;
-    for (QObject *objekt : widget()->children()) {
-      auto *kind = qobject_cast<QWidget *>(objekt);
-      if (kind && !kind->isWindow() && !kind->isHidden() && !IstLeer(kind))
-        kinder.append(kind);
-    }
+    QList<QWidget *> kinder = widget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    kinder.removeIf(
+        [](const QWidget *kind) { return kind->isWindow() || kind->isHidden() || IstLeer(kind); });
     return kinder;
   }
 };
@@ -50,16 +47,16 @@ class ZugangBild : public Zugang {
     QAccessible::State zustand = Zugang::state();
     const bool wahl = role() == QAccessible::RadioButton || role() == QAccessible::CheckBox;
     zustand.checkable = wahl;
-    zustand.checked = wahl && Das().IstGewaehlt();
-    zustand.focusable = Das().IstBedienbar();
+    zustand.checked = wahl && DasBild().IstGewaehlt();
+    zustand.focusable = DasBild().IstBedienbar();
     return zustand;
   }
 
   QStringList actionNames() const override {
     QStringList namen;
-    if (Das().IstBedienbar())
+    if (DasBild().IstBedienbar())
       namen << pressAction();
-    if (Das().IstZweitastig())
+    if (DasBild().IstZweitastig())
       namen << showMenuAction();
     return namen;
   }
@@ -69,11 +66,11 @@ class ZugangBild : public Zugang {
       return;
     // Do not block the caller: the click may open a modal window.
     const Qt::MouseButton taste = name == pressAction() ? Qt::LeftButton : Qt::RightButton;
-    QTimer::singleShot(0, &Das(), [bild = &Das(), taste] { bild->Bediene(taste); });
+    QTimer::singleShot(0, &DasBild(), [bild = &DasBild(), taste] { bild->Bediene(taste); });
   }
 
  private:
-  Bild &Das() const { return *static_cast<Bild *>(object()); }
+  Bild &DasBild() const { return *static_cast<Bild *>(object()); }
 };
 
 /// Qt calls this for the class of an object, then for its base classes.

@@ -5,8 +5,8 @@
 #include "core/meldungen.h"
 #include "core/spiel.h"
 
-/// Controls that `Zeige` shows and hides. The level is won while `imgNextLevel` is visible, and lost
-/// while `cmdWiederholen` is visible.
+/// Controls that `Zeige` shows and hides. The level is won while `imgNextLevel` is visible, and
+/// lost while `cmdWiederholen` is visible.
 enum class Bedienung {
   imgNextLevel,
   cmdWiederholen,

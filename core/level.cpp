@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <string>
 
 #include "core/anzeige.h"
@@ -11,30 +12,18 @@
 
 namespace {
 
-struct Startstufe {
-  int bisLevel;
-  std::array<std::int16_t, kModi> felder;
-};
-constexpr std::array<Startstufe, 6> kStartstufen{{
-    {5, {8, 6, 0}},
-    {20, {8, 6, 0}},  // For Experte see StartfelderFuer().
-    {24, {14, 12, 12}},
-    {29, {11, 9, 9}},
-    {34, {9, 7, 7}},
-    {kLetztesLevel, {7, 5, 5}},
-}};
-
-struct Freistufe {
-  int bisLevel;
-  std::int16_t felder;
-};
-constexpr std::array<Freistufe, 6> kFreistufen{
-    {{3, 2}, {8, 4}, {13, 6}, {18, 8}, {30, 10}, {kLetztesLevel, 12}}};
+// The key is the last level of a range. For Experte in levels 6 to 20 see StartfelderFuer().
+const std::map<int, std::array<std::int16_t, kModi>> kStartfelder{{20, {8, 6, 0}},
+                                                                  {24, {14, 12, 12}},
+                                                                  {29, {11, 9, 9}},
+                                                                  {34, {9, 7, 7}},
+                                                                  {kLetztesLevel, {7, 5, 5}}};
+const std::map<int, std::int16_t> kFreifelder{{3, 2},  {8, 4},   {13, 6},
+                                              {18, 8}, {30, 10}, {kLetztesLevel, 12}};
 
 template <class Stufen>
 const auto &StufeFuer(const Stufen &stufen, int level) {
-  return *std::find_if(stufen.begin(), stufen.end() - 1,
-                       [level](const auto &stufe) { return level <= stufe.bisLevel; });
+  return stufen.lower_bound(std::min(level, kLetztesLevel))->second;
 }
 
 std::int16_t ZufaelligeZelle(int von, int bis) {
@@ -75,11 +64,11 @@ void SpielZuEnde(Ansicht &ansicht) {
 std::int16_t StartfelderFuer(int level, int modus) {
   if (modus == kModusExperte && level > 5 && level <= 20)
     return static_cast<std::int16_t>(level - 5);
-  return Element(StufeFuer(kStartstufen, level).felder, modus - 1);
+  return Element(StufeFuer(kStartfelder, level), modus - 1);
 }
 
 std::int16_t FreifelderFuer(int level) {
-  return StufeFuer(kFreistufen, level).felder;
+  return StufeFuer(kFreifelder, level);
 }
 
 void SpielBeginnen(Ansicht &ansicht) {

@@ -19,11 +19,10 @@ void SpielBeginnen(Ansicht &ansicht);
 /// numbers: call `BerechneZahlen` afterwards.
 void LevelBeginnen(Ansicht &ansicht);
 
-/// Draws a cell from `von` to `bis` that holds no gem, and puts a gem there. Such a cell must
-/// exist.
+/// Draws a cell from `von` to `bis` that holds no gem, and puts a gem there. There must be one.
 std::int16_t ZieheSarant(std::int16_t von, std::int16_t bis);
 
-/// Draws a cell from `von` to `bis` without `Gezogen`, and sets it. Such a cell must exist.
+/// Draws a cell from `von` to `bis` without `Gezogen`, and sets it. There must be one.
 std::int16_t ZieheStartfeld(std::int16_t von, std::int16_t bis);
 
 /// Opens `Startfelder` random gems by simulated left clicks.

@@ -26,10 +26,9 @@ constexpr auto &Element(Reihe &reihe, Index index) {
   return reihe.at(static_cast<std::size_t>(index));
 }
 
-/// One cell of the board.
 struct Zelle {
   bool IstSarant = false;  ///< The cell holds a gem. Changes only when a level begins.
-  bool Gezogen = false;    ///< Already drawn as a start cell. Used by `ExternerKlick` only.
+  bool Gezogen = false;    ///< Drawn by `ZieheStartfeld`. `ExternerKlick` resets it.
 };
 
 /// The best list in memory: names and points as text, exactly as in the file. After a failed load

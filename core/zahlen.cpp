@@ -11,13 +11,6 @@ struct Linie {
   int ersterPlatz;
 };
 
-Linie Spalte(int c) {
-  return {90 + c, -10, kPlaetzeJeLinie * (c - 1) + 1};
-}
-Linie Zeile(int r) {
-  return {10 * r, -1, 50 + kPlaetzeJeLinie * (r - 1) + 1};
-}
-
 void ZaehleLinie(Ansicht &ansicht, const Linie &linie) {
   int platz = linie.ersterPlatz;
   int lauf = 0;
@@ -40,10 +33,10 @@ void BerechneZahlen(Ansicht &ansicht) {
     ansicht.ZeigeZahlfeld(platz, true);
     ansicht.SetzeZahl(platz, 0);
   }
-  for (int c = 1; c <= kLinie; ++c)
-    ZaehleLinie(ansicht, Spalte(c));
-  for (int r = 1; r <= kLinie; ++r)
-    ZaehleLinie(ansicht, Zeile(r));
+  for (int spalte = 1; spalte <= kLinie; ++spalte)
+    ZaehleLinie(ansicht, {90 + spalte, -10, kPlaetzeJeLinie * (spalte - 1) + 1});
+  for (int zeile = 1; zeile <= kLinie; ++zeile)
+    ZaehleLinie(ansicht, {10 * zeile, -1, 50 + kPlaetzeJeLinie * (zeile - 1) + 1});
   for (int platz = 1; platz <= kZahlfelder; ++platz) {
     if (ansicht.IstZahlNull(platz))
       ansicht.ZeigeZahlfeld(platz, false);

@@ -9,12 +9,6 @@
 #include "controls/tastatur.h"
 #include "platform/fenstersystem.h"
 
-namespace {
-
-constexpr int kVersatz = 100;  // twips
-
-}  // namespace
-
 Bildfenster::Bildfenster(QWidget *eltern, Qt::WindowFlags art, const char *hintergrund,
                          const Twips &groesse)
     : QDialog(eltern, art), hintergrund_(hintergrund) {
@@ -23,20 +17,14 @@ Bildfenster::Bildfenster(QWidget *eltern, Qt::WindowFlags art, const char *hinte
 }
 
 void Bildfenster::Platziere(const QWidget *hauptfenster, Lage lage) {
+  constexpr int kVersatz = 100;  // twips
   const QRect rahmen = hauptfenster->frameGeometry();
   const QPoint versatz(Pixel(kVersatz), Pixel(kVersatz));
-  switch (lage) {
-    case Lage::Mitte:
-      move(rahmen.x() + (rahmen.width() - width()) / 2,
-           rahmen.y() + (rahmen.height() - height()) / 2);
-      break;
-    case Lage::RechtsUnten:
-      move(rahmen.topLeft() + versatz);
-      break;
-    case Lage::LinksOben:
-      move(rahmen.topLeft() - versatz);
-      break;
-  }
+  if (lage == Lage::Mitte)
+    move(rahmen.x() + (rahmen.width() - width()) / 2,
+         rahmen.y() + (rahmen.height() - height()) / 2);
+  else
+    move(rahmen.topLeft() + (lage == Lage::RechtsUnten ? versatz : -versatz));
   BehalteGroesse(this);
   if (isHidden())
     OhneTaskleiste(windowHandle());

@@ -6,8 +6,8 @@
 #include "core/meldungen.h"
 
 /// Base class of all windows except the main one and the cover: a window of fixed size with a
-/// background picture. Enter and Esc do nothing unless a subclass handles them. A modal window
-/// blocks the main window only, so that a click on the cover can restore a minimised game.
+/// background picture. Enter and Esc do nothing unless a subclass handles them. A modal window does
+/// not block the cover, whose click must be able to restore a minimised game.
 class Bildfenster : public QDialog {
   Q_OBJECT
 

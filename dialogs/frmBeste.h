@@ -45,6 +45,5 @@ class frmBeste : public Bildfenster {
   std::array<QLineEdit *, kBeste> txtSpieler_{};
   std::array<Zifferreihe *, kBeste> imgDiggi_{};
   Bild *lblClear_;
-  bool cmdClearSichtbar_ =
-      true;  ///< Alt+A works. An entry disables it until the window is deleted.
+  bool cmdClearSichtbar_ = true;  ///< Alt+A works. False after an entry.
 };

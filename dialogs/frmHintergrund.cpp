@@ -9,12 +9,6 @@
 #include "controls/bilder.h"
 #include "platform/fenstersystem.h"
 
-namespace {
-
-constexpr QRgb kGrundfarbe = 0xff666f7b;  ///< The mean colour of the picture.
-
-}  // namespace
-
 frmHintergrund::frmHintergrund(QWidget *hauptfenster)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
       hauptfenster_(hauptfenster) {
@@ -32,6 +26,7 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster)
 }
 
 void frmHintergrund::paintEvent(QPaintEvent *) {
+  constexpr QRgb kGrundfarbe = 0xff666f7b;  // The mean colour of the picture.
   QPainter maler(this);
   maler.setRenderHint(QPainter::SmoothPixmapTransform);
   if (Image1.isNull())

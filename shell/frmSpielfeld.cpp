@@ -91,8 +91,7 @@ frmSpielfeld::frmSpielfeld() {
   tastatur_ = std::make_unique<Tastatur>(
       flaeche, Picture1_->Zellen(),
       [this](bool spalte, int linie) { return Picture1_->Linientext(spalte, linie); });
-  for (const Bedienung bedienung : {Bedienung::imgNextLevel, Bedienung::cmdWiederholen,
-                                    Bedienung::imgSpeichern, Bedienung::imgBester})
+  for (const B bedienung : {B::imgNextLevel, B::cmdWiederholen, B::imgSpeichern, B::imgBester})
     Zeige(bedienung, false);
 
   layout()->setSizeConstraint(QLayout::SetFixedSize);

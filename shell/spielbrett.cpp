@@ -67,22 +67,18 @@ QByteArray Name(const char *stamm, int nummer) {
 
 Zellenbild::Zellenbild(QWidget *eltern, int nummer)
     : Bild(eltern, {Name("imgSar", nummer), Zellenlage(nummer), "", "", ""}), nummer_(nummer) {
-  AktualisiereName();
+  Aktualisiere();
 }
 
 void Zellenbild::SetzeKachel(Kachel kachel) {
   if (kachel_ == kachel)
     return;
   kachel_ = kachel;
-  update();
-  AktualisiereName();
+  Aktualisiere();
 }
 
-QString Zellenbild::Bildname() const {
-  return Kachelbild(kachel_);
-}
-
-void Zellenbild::AktualisiereName() {
+void Zellenbild::Aktualisiere() {
+  SetzeBild(Kachelbild(kachel_));
   constexpr std::array kWoerter{"verdeckt", "markiert", "Fehler", "Sarant"};
   setAccessibleName(QString("Zeile %1, Spalte %2: %3")
                         .arg(ZeileVon(nummer_))
@@ -94,20 +90,16 @@ Zahlenbild::Zahlenbild(QWidget *eltern, int platz)
     : Bild(eltern, {Name("imgDiggi", platz), Platzlage(ZahlfeldVon(platz)), "", "", "",
                     QAccessible::StaticText}),
       platz_(platz) {
-  AktualisiereName();
+  Aktualisiere();
 }
 
 void Zahlenbild::SetzeZahl(int zahl) {
   zahl_ = zahl;
-  update();
-  AktualisiereName();
+  Aktualisiere();
 }
 
-QString Zahlenbild::Bildname() const {
-  return frmZahlen::imgZahl(zahl_);
-}
-
-void Zahlenbild::AktualisiereName() {
+void Zahlenbild::Aktualisiere() {
+  SetzeBild(frmZahlen::imgZahl(zahl_));
   const Zahlfeld feld = ZahlfeldVon(platz_);
   setAccessibleName(QString("%1 %2, Zahl %3: %4")
                         .arg(Linienart(feld.spalte))

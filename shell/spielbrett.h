@@ -16,10 +16,8 @@ class Zellenbild : public Bild {
   Kachel LiesKachel() const { return kachel_; }
   void SetzeKachel(Kachel kachel);
 
-  QString Bildname() const override;
-
  private:
-  void AktualisiereName();
+  void Aktualisiere();
 
   int nummer_;
   Kachel kachel_ = Kachel::Verdeckt;
@@ -37,10 +35,8 @@ class Zahlenbild : public Bild {
   /// @param zahl   0 (empty) to 10.
   void SetzeZahl(int zahl);
 
-  QString Bildname() const override;
-
  private:
-  void AktualisiereName();
+  void Aktualisiere();
 
   int platz_;
   int zahl_ = 0;

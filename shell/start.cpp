@@ -26,7 +26,6 @@ namespace {
 
 constexpr QSize kRahmen(16, 61);  ///< Pixels of the frame and the menu bar, which are not scaled.
 constexpr QSize kLeiste(0, 48);   ///< Assumed size of a desktop panel; Wayland does not report it.
-constexpr double kMenueschrift = 9.75;  ///< Points at 96 dpi.
 
 }  // namespace
 
@@ -43,14 +42,13 @@ void RichteAnwendungEin(QApplication &anwendung) {
   QApplication::setStyle("Fusion");
   QApplication::setPalette(Steinpalette());
   QToolTip::setPalette(Steinpalette());
-  QApplication::setFont(Schrift(kMenueschrift, false));
+  QApplication::setFont(Schrift(9.75, false));
   QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
   auto *uebersetzung = new QTranslator(&anwendung);
   if (uebersetzung->load(":/uebersetzung/qtbase_de.qm"))
     QApplication::installTranslator(uebersetzung);
   anwendung.installEventFilter(new Tastenwache(&anwendung));
-  // Otherwise winId() of a message window turns the children of the main window into native
-  // windows.
+  // Otherwise winId() of a message window makes native windows of the main window's children.
   QApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
   // A native menu bar would wait for the session bus.
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
