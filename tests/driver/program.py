@@ -106,6 +106,7 @@ class Program:
     """One run of the game."""
 
     def __init__(self, path, **environment):
+        pyatspi.Registry.getDesktop(0)  # Starts the bus; the program asks for it only once.
         with open(STAGE / "stderr", "w") as stderr:
             self.process = subprocess.Popen([path], env=os.environ | environment, stderr=stderr)
         self.app = wait_for(lambda: next((app for app in filter(None, pyatspi.Registry.getDesktop(0))

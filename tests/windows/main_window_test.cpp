@@ -29,14 +29,12 @@ TEST_F(MainWindow, StandsInTheMiddleBeforeACoverThatBringsItBack) {
   ASSERT_NE(cover, nullptr);
   EXPECT_EQ(cover->geometry(), board->screen()->geometry());
   EXPECT_TRUE(QTest::qWaitFor([&] { return cover->updatesEnabled(); }));
-  Then<frmMsgJa>([&](frmMsgJa &window) {
+  Ask([&](Meldefenster &window) {
     board->showMinimized();
     Click(cover);
     EXPECT_FALSE(board->isMinimized());
     EXPECT_TRUE(window.isActiveWindow());
-    window.close();
   });
-  board->Frage(FrageBeenden);
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
 }
 
@@ -67,8 +65,7 @@ TEST_F(MainWindow, ReleasesThePressedButtonWhenAQuestionComes) {
   Bild *button = Find(*board, "lblInfo");
   QTest::mousePress(button, Qt::LeftButton);
   EXPECT_EQ(button->Bildname(), "cmdBeschreibungenFruen");
-  ThenAnswer("N");
-  board->Frage(FrageNeuesSpiel);
+  Ask([](Meldefenster &) {});
   EXPECT_EQ(button->Bildname(), "cmdBeschreibungenAuswahl");
 }
 
@@ -88,16 +85,14 @@ TEST_F(MainWindow, LetsOnlyThoseActWithoutAMouseWhomAMouseReaches) {
     Use(hidden);
   EXPECT_EQ(spiel.Level, 1);
   EXPECT_EQ(spiel.Spielmodus, kModusNormal);
-  Then<frmMsgJa>([&](frmMsgJa &window) {
+  Ask([&](Meldefenster &window) {
     for (int n = 1; n <= kZellen; ++n)
       Use("imgSar" + QString::number(n));
     Use("imgEnde");
     for (QAction *entry : board->findChildren<QAction *>())
       entry->trigger();
     EXPECT_TRUE(window.isVisible());
-    Press(window, "N");
   });
-  board->Frage(FrageNeuesSpiel);
   EXPECT_EQ(spiel.SarantenRest, 75 - spiel.Startfelder);
   EXPECT_EQ(spiel.Fehler, 0);
   EXPECT_TRUE(spiel.SoundAn);
