@@ -5,6 +5,7 @@ usage: [SCREEN=weston] tests/driver/stage access_scenarios.py PROGRAM     weston
 
 import os
 import sys
+import time
 
 import pyatspi
 from audio import Audio
@@ -37,7 +38,10 @@ def play_by_keyboard(driver):
                      if has(e, pyatspi.STATE_FOCUSED)), None)
 
     def go(key, fits):
-        wait_for(lambda: (e := focus()) is not None and fits(e) or driver.hand.key(key), key)
+        def press():
+            driver.hand.key(key)
+            time.sleep(0.3)  # The focus must not move while the tree is walked.
+        wait_for(lambda: (e := focus()) is not None and fits(e) or press(), key)
 
     def press_space_on(name, *down):
         go("Tab", lambda e: e.getRole() in BUTTONS and not CELL.match(e.name))
