@@ -35,12 +35,14 @@ Beschriftung::Beschriftung(QWidget *eltern, const Texteintrag &eintrag)
   ZeigeText(eintrag.text);
 }
 
-void Beschriftung::ZeigeText(const std::string &text) {
+void Beschriftung::ZeigeText(const std::string &text, int freieZeilen) {
   const QString ganz = QString::fromStdString(text).remove('\r');
   constexpr double kKleinste = 0.85;  // Part of the full size that is still easy to read.
   const int kleinste = static_cast<int>(schrift_.pixelSize() * kKleinste);
   QFont schrift = schrift_;
   setFont(schrift);
+  if (!Passt(Umbrochen(ganz)))
+    resize(width(), height() + freieZeilen * fontMetrics().lineSpacing());
   while (!Passt(Umbrochen(ganz)) && schrift.pixelSize() > kleinste) {
     schrift.setPixelSize(schrift.pixelSize() - 1);
     setFont(schrift);

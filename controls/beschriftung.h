@@ -45,7 +45,8 @@ class Beschriftung : public QLabel {
   Beschriftung(QWidget *eltern, const Texteintrag &eintrag);
 
   /// Shows a text whose lines end in CR LF or LF.
-  void ZeigeText(const std::string &text);
+  /// @param freieZeilen   lines below the label that a long text may use.
+  void ZeigeText(const std::string &text, int freieZeilen = 0);
   void SetzeFarbe(QRgb farbe);
 
  private:

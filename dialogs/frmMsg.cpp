@@ -89,7 +89,8 @@ Meldefenster::Meldefenster(const Meldelayout &layout, const Meldung &meldung)
   panel->setPalette(QPalette(Qt::white));
   panel->setAutoFillBackground(true);
   panel->setAttribute(Qt::WA_NoMousePropagation);  // A press on the panel does not drag.
-  (new Beschriftung(panel, layout.lblMeldung))->ZeigeText(meldung.lblMeldung);
+  const int freieZeilen = meldung.lblTitel.starts_with("\r\n") ? 1 : 0;
+  (new Beschriftung(panel, layout.lblMeldung))->ZeigeText(meldung.lblMeldung, freieZeilen);
   (new Beschriftung(panel, layout.lblTitel))->ZeigeText(meldung.lblTitel);
 
   for (const Meldelayout::Knopf &knopf : layout.knoepfe) {
