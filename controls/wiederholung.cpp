@@ -11,24 +11,39 @@ namespace {
 /// State of a key. Times are event timestamps in milliseconds; 0: none yet.
 struct Taste {
   quint64 gedrueckt = 0;
+  quint64 erster = 0;  ///< The last press that was no repeat.
   quint64 losgelassen = 0;
-  bool wiederholt = false;    ///< The last press was a repeat.
+  bool wiederholt = false;    ///< The press judged last was a repeat.
   QPointer<QWindow> fenster;  ///< Window with the focus at the first press.
 };
 
 std::map<int, Taste> tasten;  ///< By `QKeyEvent::key()`.
 
+/// With assistive technology, Qt sends each event a second time when the bus has answered, maybe
+/// behind later ones. The clock of an X server begins anew after 49 days.
+bool IstNeuer(quint64 zeit, quint64 letzte) {
+  constexpr quint64 kLaengsteFrist = 60'000;
+  return zeit > letzte || letzte - zeit > kLaengsteFrist;
+}
+
 /// Updates the state once for each press. Qt delivers the same press to several objects.
 const Taste &Beurteile(const QKeyEvent &druck) {
   Taste &taste = tasten[druck.key()];
   const quint64 zeit = druck.timestamp();
-  if (zeit == 0 || zeit != taste.gedrueckt) {
-    // An X server reports a repeat as a release and a press with the same timestamp. Qt sets the
-    // auto-repeat flag only if it reads both at once.
-    taste.wiederholt = druck.isAutoRepeat() || (zeit != 0 && zeit == taste.losgelassen);
+  if (zeit == 0 || IstNeuer(zeit, taste.gedrueckt)) {
+    // An X server reports a repeat as a release and a press. Qt sets the auto-repeat flag only if
+    // it reads both at once and their timestamps are equal; they differ when a millisecond ends
+    // between.
+    constexpr quint64 kSchnellsterFinger = 10;
+    taste.wiederholt = druck.isAutoRepeat() || (zeit != 0 && taste.losgelassen != 0 &&
+                                                zeit - taste.losgelassen < kSchnellsterFinger);
     taste.gedrueckt = zeit;
-    if (!taste.wiederholt)
+    if (!taste.wiederholt) {
+      taste.erster = zeit;
       taste.fenster = QGuiApplication::focusWindow();
+    }
+  } else {
+    taste.wiederholt = zeit != taste.erster;
   }
   return taste;
 }
@@ -43,7 +58,9 @@ bool Tastenwache::eventFilter(QObject *, QEvent *ereignis) {
   const QEvent::Type art = ereignis->type();
   if (art == QEvent::KeyRelease) {
     const auto &taste = *static_cast<QKeyEvent *>(ereignis);
-    tasten[taste.key()].losgelassen = taste.timestamp();
+    quint64 &losgelassen = tasten[taste.key()].losgelassen;
+    if (IstNeuer(taste.timestamp(), losgelassen))
+      losgelassen = taste.timestamp();
     return false;
   }
   if (art != QEvent::KeyPress && art != QEvent::ShortcutOverride)

@@ -69,8 +69,8 @@ def play_by_keyboard(driver):
 
 if __name__ == "__main__":
     AUDIO = Audio(sys.argv[1])
-    with Driver(sys.argv[1], AUDIO, Bus()) as DRIVER:
-        play_over_bus(DRIVER)
     if "DISPLAY" in os.environ:
         with Driver(sys.argv[1], AUDIO) as DRIVER:
             play_by_keyboard(DRIVER)
+    with Driver(sys.argv[1], AUDIO, Bus()) as DRIVER:
+        play_over_bus(DRIVER)

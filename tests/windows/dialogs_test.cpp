@@ -95,8 +95,9 @@ TEST_F(Messages, AHeldKeyDoesNotCountInTheNextWindow) {
   Then<frmBeste>([&](frmBeste &window) {
     auto *name = window.findChild<QLineEdit *>();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    for (const quint64 time : {1030U, 1060U})  // An X server reports a repeat this way.
-      Send(time, time, name);
+    Send(1030, 1030, name);  // An X server reports repeats this way.
+    Send(1060, 1061, name);
+    Send(1030, 1030, name);  // A copy that assistive technology sends late.
     EXPECT_EQ(name->text(), "Spieler");
     for (const char *key : {"J", "Alt+A"})
       Press(*name, key);
