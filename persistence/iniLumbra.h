@@ -1,5 +1,4 @@
-/// @file
-/// The settings file: one line with the mode of the game. Failures are never reported.
+// The settings file: one line with the mode of the game. Failures are never reported.
 #pragma once
 
 #include <QString>

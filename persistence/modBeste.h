@@ -1,6 +1,5 @@
-/// @file
-/// The five best results of this machine: the list in memory (`spiel.Beste`), its file, and the
-/// test whether a player may enter.
+// The five best results of this machine: the list in memory (`spiel.Beste`), its file, and the
+// test whether a player may enter.
 #pragma once
 
 #include <QString>

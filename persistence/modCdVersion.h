@@ -1,5 +1,4 @@
-/// @file
-/// The folder of all files that the program writes. It is determined once, at the start.
+// The folder of all files that the program writes. It is determined once, at the start.
 #pragma once
 
 #include <QString>

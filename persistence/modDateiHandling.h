@@ -1,5 +1,4 @@
-/// @file
-/// Saved games: three lines with the level last finished, the points and the mode.
+// Saved games: three lines with the level last finished, the points and the mode.
 #pragma once
 
 #include <QString>

@@ -1,6 +1,5 @@
-/// @file
-/// Small text files: lines that end with CR LF, in the code page of platform/codepage.h. Also what
-/// can go wrong with a file.
+// Small text files: lines that end with CR LF, in the code page of platform/codepage.h. Also what
+// can go wrong with a file.
 #pragma once
 
 #include <QString>

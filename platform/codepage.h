@@ -1,8 +1,7 @@
-/// @file
-/// The code page of the text files.
-///
-/// Windows: the ANSI code page of the machine. Other systems: Windows-1252.
-/// Source of the latter: WHATWG Encoding Standard, index windows-1252.
+// The code page of the text files.
+//
+// Windows: the ANSI code page of the machine. Other systems: Windows-1252.
+// Source of the latter: WHATWG Encoding Standard, index windows-1252.
 #pragma once
 
 #include <QByteArray>

@@ -1,5 +1,4 @@
-/// @file
-/// The file dialog.
+// The file dialog.
 #pragma once
 
 #include <QFileDialog>

@@ -1,5 +1,4 @@
-/// @file
-/// Asks the disk to confirm what was written.
+// Asks the disk to confirm what was written.
 #pragma once
 
 /// Waits until the disk holds the content of a file; false if it reports an error.

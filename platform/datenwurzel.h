@@ -1,5 +1,4 @@
-/// @file
-/// The parent of the data folder.
+// The parent of the data folder.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,4 @@
-/// @file
-/// The system that shows windows.
+// The system that shows windows.
 #pragma once
 
 class QWindow;

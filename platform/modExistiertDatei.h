@@ -1,5 +1,4 @@
-/// @file
-/// Test of a path.
+// Test of a path.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,4 @@
-/// @file
-/// The two file dialogs.
+// The two file dialogs.
 #pragma once
 
 #include <QString>

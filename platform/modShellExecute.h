@@ -1,5 +1,4 @@
-/// @file
-/// Help pages, shown by another program.
+// Help pages, shown by another program.
 #pragma once
 
 #include <QString>

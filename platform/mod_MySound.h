@@ -1,5 +1,4 @@
-/// @file
-/// Sound effects by number. No failure of sound is ever reported.
+// Sound effects by number. No failure of sound is ever reported.
 #pragma once
 
 /// Starts an effect and returns at once. An effect that is still playing is cut off. One whose file

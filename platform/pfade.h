@@ -1,5 +1,4 @@
-/// @file
-/// Paths and the folder of the game's resources.
+// Paths and the folder of the game's resources.
 #pragma once
 
 #include <QString>

@@ -1,6 +1,5 @@
-/// @file
-/// The sound devices of the machine, and the playing of a wave file. No call waits for the sound
-/// server; without an answer the machine counts as one without sound.
+// The sound devices of the machine, and the playing of a wave file. No call waits for the sound
+// server; without an answer the machine counts as one without sound.
 #pragma once
 
 #include <QObject>

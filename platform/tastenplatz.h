@@ -1,5 +1,4 @@
-/// @file
-/// Keys by their position on the keyboard, independent of its layout.
+// Keys by their position on the keyboard, independent of its layout.
 #pragma once
 
 class QKeyEvent;

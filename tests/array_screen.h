@@ -1,5 +1,4 @@
-/// @file
-/// A screen made of arrays, on which the rules are tested without a window.
+// A screen made of arrays, on which the rules are tested without a window.
 #pragma once
 
 #include <array>

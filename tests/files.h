@@ -1,5 +1,4 @@
-/// @file
-/// Files of the tests, written and read without the code under test, and texts of Qt.
+// Files of the tests, written and read without the code under test, and texts of Qt.
 #pragma once
 
 #include <QFile>

@@ -1,5 +1,4 @@
-/// @file
-/// The real windows on a screen that nobody sees, with their files in a folder of the test's own.
+// The real windows on a screen that nobody sees, with their files in a folder of the test's own.
 #pragma once
 
 #include <gtest/gtest.h>

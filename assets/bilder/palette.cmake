@@ -1,6 +1,6 @@
-# Every colour of the pictures, except those of the gem, which stand in glanzgrube.svg and glanzgrube-klein.svg.
+# The colours of the pictures, except those of the gem, which are in glanzgrube.svg and glanzgrube-klein.svg.
 
-# Light and shade laid over everything that has an edge. The light comes from the top left.
+# Light and shade of all edges. The light comes from the top left.
 set(LICHT            "#ffffff")
 set(SCHATTEN         "#0b1420")
 set(SCHWARZ          "#000000")

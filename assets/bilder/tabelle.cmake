@@ -18,8 +18,7 @@ function(koernung fein tiefe wolken wolken_mitte)
   set(KOERNUNG "${KOERNUNG}" PARENT_SCOPE)
 endfunction()
 
-# The board lies in the main window's stone. Both are one picture, because decoding a second one would
-# make the start of the program a tenth longer.
+# Window and board are one picture: decoding a second one would make the start a tenth longer.
 koernung(.5 .11 .14 .07)
 stueck(RITZUNG ritzung.svg.in)
 set(LICHT_X -172)
@@ -36,8 +35,8 @@ bild(spielfeld spielfeld 1000 800 ENDUNG jpg SICHTBREITE 878 SICHTHOEHE 729 RAND
 koernung(".72 .4" .1 .08 .04)
 bild(schreibtisch schreibtisch 643 647 ENDUNG jpg FAKTOREN 1,2 RAND 16)
 
-# The scalloped band: its width, the width without the scallops, and the scallops' diameter. It begins so that
-# both ends of the sheet cut it alike.
+# The scalloped band: its width, the width without the scallops, and the scallops' diameter. The first scallop
+# is placed so that both ends of the sheet cut the band alike.
 function(papierbogen name breite hoehe sichtbreite sichthoehe bandbreite bogen)
   math(EXPR halb "${bogen} / 2")
   math(EXPR kern "${bandbreite} - ${halb}")
@@ -59,7 +58,7 @@ papierbogen(beste     650 450 342 323 46 24)
 
 stueck(GLAS glas.svg.in)
 
-# The two looks of a face: light and raised at rest, bright green and pressed in when lit.
+# The two looks of a button face: light and raised at rest, bright green and sunken when chosen or pressed.
 macro(aussehen_ruhe)
   set(OBEN "${TASTE_HELL}")
   set(MITTE "${TASTE}")
@@ -77,7 +76,7 @@ macro(aussehen_leuchtend)
   stueck(TASTENVORRAT tastenvorrat.svg.in)
 endmacro()
 
-# The badges: colour of the disc, and what stands on it in white within a circle of radius 9.
+# The badges: colour of the disc, and a white sign within a radius of 9 on it.
 set(kreuz_SCHEIBE ${ROT})
 set(kreuz_GLYPHE "<path d='M-5,-5 L5,5 M5,-5 L-5,5'/>")
 set(haken_SCHEIBE ${GRUEN})
@@ -136,8 +135,8 @@ function(taste variable X Y B H SCHRIFTGROESSE WORT zeichen)
   set(${variable} "${ergebnis}" PARENT_SCOPE)
 endfunction()
 
-# A picture with one face. The face fills the picture, or lies in it from LINKS on and is BREITE wide, so that
-# faces stand in line whose pictures do not.
+# A picture with one face. The face fills the picture, or begins at LINKS and is BREITE wide, so that faces are
+# aligned although their pictures are not.
 function(tastenbild name breite hoehe schrift wort zeichen)
   set(lage 0 ${breite})
   if(ARGC GREATER 6)
@@ -186,8 +185,8 @@ foreach(zeile IN LISTS zwei_aussehen)
   tastenbild(${ruhe} ${breite} ${hoehe} ${schrift} "${wort}" ${zeichen} ${zeile})
 endforeach()
 
-# Message windows: the faces lie exactly within the spots that take the click, and the white panel of the text, 135
-# high, from TAFELOBEN on.
+# Message windows: the faces lie within the labels that take the click. The white panel of the text is 135
+# high and begins at TAFELOBEN.
 function(meldung name sichtbreite sichthoehe tafeloben tasten)
   math(EXPR tafelbreite "${sichtbreite} - 8")
   math(EXPR rahmenbreite "${sichtbreite} - 6")

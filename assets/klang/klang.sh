@@ -1,9 +1,9 @@
 #!/bin/sh
 # Renders one sound:  klang.sh SOX TABLE NAME FILE
-# A blow is a few decaying sine tones. The material says how they lie to each other: the overtones of a
-# struck bar of glass are few and high, a bead is a bar that is struck softly. Those of stone are as strong as its
-# pitch and reach small loudspeakers that the pitch does not reach. One of them begins at its peak: together they
-# stay lower, and the sound is louder. A tick is stone that rings for a few milliseconds.
+# A stroke is a sum of a few decaying sine tones. The material gives the ratios of the overtones: few and high
+# for a bar of glass, softer for a bead, as strong as the fundamental for stone, so that small loudspeakers play
+# it. One overtone of stone starts at its maximum; this lowers the peak of the sum, so that the sound can be
+# louder. A tick is stone that decays within a few milliseconds.
 set -e
 sox=$1 tabelle=$2 name=$3 datei=$4
 

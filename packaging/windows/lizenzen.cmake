@@ -1,5 +1,5 @@
-# What the libraries that are part of the program for Windows demand to be told, each text in full:
-# the notices come with Debian's packages and refer to texts that Debian keeps in a folder of its own.
+# The licences of the libraries in the program for Windows, each text in full. The notices come with
+# Debian's packages and refer to licence texts in a folder of Debian's.
 set(LIZENZEN ${CMAKE_CURRENT_BINARY_DIR}/Lizenzen)
 file(REMOVE_RECURSE ${LIZENZEN})
 execute_process(COMMAND dpkg-query -W -f \${source:Version} qt6-base-dev

@@ -1,5 +1,5 @@
-# What Windows shows of the program before it runs, and the portable ZIP and the installer that
-# `cpack` makes. The program and the files that it reads lie in one folder.
+# Icon and version information, and the portable ZIP and the installer that `cpack` makes. The program and
+# the files that it reads are in one folder.
 enable_language(RC)
 
 set(ico ${CMAKE_CURRENT_BINARY_DIR}/glanzgrube.ico)
@@ -35,7 +35,7 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/reihenfolge.cmake)
 set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/reihenfolge.cmake)
 set(CPACK_PACKAGE_FILE_NAME glanzgrube-${PROJECT_VERSION}-windows)
-# The project's own script of the installer stands in place of CPack's, which wants an administrator.
+# CPack's own installer script requires an administrator, so the project has its own.
 list(APPEND CMAKE_MODULE_PATH ${CMAKE_CURRENT_LIST_DIR})
 set(CPACK_NSIS_MUI_ICON ${ico})
 include(CPack)

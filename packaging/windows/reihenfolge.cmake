@@ -1,6 +1,5 @@
-# CPack takes the files in the order in which the file system lists them, which differs from folder to
-# folder. Before a package is made, this writes down in a fixed order what its uninstaller deletes;
-# afterwards, it packs the ZIP anew.
+# CPack takes files in the order of the file system, which differs between folders. Before a package is
+# made, this script sorts the list of files that the uninstaller deletes. Afterwards it packs the ZIP again.
 cmake_path(GET CPACK_TEMPORARY_DIRECTORY PARENT_PATH oben)
 file(GLOB_RECURSE dateien RELATIVE ${oben} LIST_DIRECTORIES false ${CPACK_TEMPORARY_DIRECTORY}/*)
 

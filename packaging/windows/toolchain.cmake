@@ -7,7 +7,7 @@ set(ZIEL x86_64-w64-mingw32)
 set(CMAKE_C_COMPILER ${ZIEL}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${ZIEL}-g++-posix)
 set(CMAKE_RC_COMPILER ${ZIEL}-windres)
-# No library of the compiler has to travel with the program.
+# The compiler's libraries are linked statically.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_EXE_LINKER_FLAGS_MINSIZEREL_INIT -s)
 

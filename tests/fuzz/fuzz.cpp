@@ -1,4 +1,3 @@
-/// @file
 /// The fuzz target: the input is tried as a file of each format.
 #include <QTemporaryDir>
 #include <cstdlib>

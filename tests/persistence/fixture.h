@@ -1,5 +1,4 @@
-/// @file
-/// A fresh game with a data folder of its own, as real as the player's.
+// A fresh game with a data folder of its own, as real as the player's.
 #pragma once
 
 #include <gtest/gtest.h>
