@@ -15,13 +15,13 @@ class ArrayScreen : public Ansicht {
   std::array<Kachel, kZellen + 1> tiles{};
   std::array<int, kZahlfelder + 1> numbers{};
   std::array<bool, kZahlfelder + 1> numberVisible{};
-  std::map<std::pair<Panelreihe, int>, std::string> digits;  ///< '_' is blank, red in brackets.
+  /// By row and negative place, so as they stand; '_' is blank, red in brackets.
+  std::map<std::pair<Panelreihe, int>, std::string> digits;
   std::string modeText;
   Textfarbe modeColour = Textfarbe::Dunkelblau;
   std::map<Bedienung, bool> visible;
   bool modeRowVisible = true;
-  std::map<Pfeil, int> timers;
-  std::map<Pfeil, int> arrows;
+  std::map<Pfeil, int> timers, arrows;
   std::vector<int> sounds;
   std::vector<Meldung> messages;     ///< Announcements and questions, in their order.
   std::deque<std::int16_t> answers;  ///< Answers to come; an empty queue cancels.
@@ -35,7 +35,7 @@ class ArrayScreen : public Ansicht {
   void ZeigeZahlfeld(int platz, bool s) override { numberVisible.at(Index(platz)) = s; }
   void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override {
     const std::string sign(1, "0123456789_"[ziffer]);
-    digits[{reihe, stelle}] = farbe == Ziffernfarbe::Rot ? "[" + sign + "]" : sign;
+    digits[{reihe, -stelle}] = farbe == Ziffernfarbe::Rot ? "[" + sign + "]" : sign;
   }
   void SetzeModustext(const std::string &text) override { modeText = text; }
   void SetzeModusfarbe(Textfarbe farbe) override { modeColour = farbe; }
@@ -45,8 +45,8 @@ class ArrayScreen : public Ansicht {
   void StartePfeil(Pfeil pfeil, int takt) override { timers[pfeil] = takt; }
   void ZeigePfeil(Pfeil pfeil, int phase) override { arrows[pfeil] = phase; }
   void StoppePfeil(Pfeil pfeil) override {
-    timers[pfeil] = 0;
-    arrows[pfeil] = kKeinPfeil;
+    StartePfeil(pfeil, 0);
+    ZeigePfeil(pfeil, kKeinPfeil);
   }
   void SpieleSound(int effekt) override { sounds.push_back(effekt); }
   void Melde(const Meldung &meldung) override { messages.push_back(meldung); }

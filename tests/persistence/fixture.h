@@ -12,6 +12,7 @@
 class DataFixture : public testing::Test {
  protected:
   QTemporaryDir folder;
+  QString path = folder.filePath("spiel.sar");
   ArrayScreen screen;
 
   DataFixture() {

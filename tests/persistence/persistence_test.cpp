@@ -9,54 +9,50 @@
 using Settings = DataFixture;
 
 TEST_F(Settings, GiveTheModeAndStayAsTheyAre) {
-  const std::map<std::pair<int, bool>, std::vector<QByteArray>> cases = {
-      {{1, true}, {"1\r\n"}},
-      {{2, true}, {"-1\r\n"}},
-      {{2, false}, {"0\r\n", "4\r\n", "Experte\r\n", "", "65539\r\n", QByteArray("3\0", 2)}},
-      {{3, true}, {"3\nmehr"}}};
-  for (const auto &[result, files] : cases) {
-    for (const QByteArray &bytes : files) {
-      WriteFile(IniPfad(), bytes);
-      spiel.Spielmodus = 1;
-      screen.modeText.clear();
-      LeseIni(screen);
-      EXPECT_EQ(spiel.Spielmodus, result.first) << bytes.data();
-      EXPECT_EQ(screen.modeText, result.second ? Moduszeile(3) : "") << bytes.data();
-      EXPECT_EQ(ReadFile(IniPfad()), bytes);
-    }
+  const std::map<QByteArray, int> cases = {
+      // Negative: the text of the mode is not shown.
+      {"1\r\n", 1},        {"-1\r\n", 2}, {"0\r\n", -2},     {"4\r\n", -2},
+      {"Experte\r\n", -2}, {"", -2},      {"65539\r\n", -2}, {QByteArray("3\0", 2), -2},
+      {"3\nmehr", 3}};
+  for (const auto &[bytes, result] : cases) {
+    WriteFile(IniPfad(), bytes);
+    spiel.Spielmodus = 1;
+    screen.modeText.clear();
+    LeseIni(screen);
+    EXPECT_EQ(spiel.Spielmodus, std::abs(result)) << bytes.data();
+    EXPECT_EQ(screen.modeText, result > 0 ? Moduszeile(3) : "") << bytes.data();
+    EXPECT_EQ(ReadFile(IniPfad()), bytes);
     SchreibeIni();
-    EXPECT_EQ(ReadFile(IniPfad()), QByteArray::number(result.first) + "\r\n");
+    EXPECT_EQ(ReadFile(IniPfad()), QByteArray::number(spiel.Spielmodus) + "\r\n");
   }
 }
 
+/// Level, points, level points and mode.
+static std::vector<int> Game() {
+  return {spiel.Level, spiel.Punkte, spiel.Levelpunkte, spiel.Spielmodus};
+}
+static const std::vector kGame{7, 2900, 450, 2};
+
 class SavedGame : public DataFixture {
  protected:
-  QString path = folder.filePath("spiel.sar");
-
   SavedGame() {
     spiel.Level = 7;
     spiel.Punkte = 2900;
     spiel.Levelpunkte = 450;
-  }
-  static void ExpectGame(int level, int points, int levelPoints, int mode) {
-    EXPECT_EQ(spiel.Level, level);
-    EXPECT_EQ(spiel.Punkte, points);
-    EXPECT_EQ(spiel.Levelpunkte, levelPoints);
-    EXPECT_EQ(spiel.Spielmodus, mode);
   }
 };
 
 TEST_F(SavedGame, IsWrittenByteByByteAndLoadedIntoACleanLevel) {
   SpeichereSpielstand(screen, path);
   EXPECT_EQ(ReadFile(path), "7\r\n3350\r\n2\r\n");
-  ExpectGame(7, 2900, 450, 2);
+  EXPECT_EQ(Game(), kGame);
   WriteFile(path, "3\n4711\n3");  // In this level no start cell writes over the text.
   screen.visible[Bedienung::imgNextLevel] = true;
   screen.timers = {{Pfeil::Start, 300}, {Pfeil::Weiter, 400}};
   screen.answers = {kJa};
   LadeGewaehlteDatei(screen, path);
   ExpectMessage(FrageLaden(4, 3, "4711"));
-  ExpectGame(4, 4711, 0, 3);
+  EXPECT_EQ(Game(), (std::vector{4, 4711, 0, 3}));
   EXPECT_EQ(spiel.SarantenRest, 72);
   EXPECT_TRUE(screen.modeText.starts_with("Spielmodus:  Experte"));
   EXPECT_FALSE(screen.IstSichtbar(Bedienung::imgNextLevel));
@@ -69,22 +65,19 @@ TEST_F(SavedGame, BeforeTheYesTheRunningGameStays) {
     screen.timers = {{Pfeil::Weiter, 300}};
     LadeSpielstand(screen, path);
     ExpectMessage(message, bytes.left(20));
-    ExpectGame(7, 2900, 450, 2);
+    EXPECT_EQ(Game(), kGame);
     EXPECT_EQ(screen.timers[Pfeil::Weiter], 300);
   };
   check(" 000 \r\n500\r\n1\r\n", FrageLaden(1, 1, "500"));
   check("41\r\n2147483647\r\n2\r\nmehr", FrageLaden(42, 2, "2147483647"));
   check("3\n\x80\n1", FrageLaden(4, 1, "€"));
-  const std::map<int, std::vector<QByteArray>> errors = {
-      {5, {"7\r\n3350\r\n"}},
-      {6,
-       {"sieben\r\n1\r\n2\r\n", "7\r\n1\r\nNormal\r\n", QByteArray("7\0\n3350\n2\n", 10),
-        " \n1\n2\n", "-\n1\n2\n", "1 2\n1\n2\n", "99999999999999999999x\n1\n2\n"}},
-      {7,
-       {"32767\n1\n2\n", "99999999999999999999\n1\n2\n", "-1\n1\n2\n", "7\n1\n0\n", "7\n1\n4\n"}}};
-  for (const auto &[number, files] : errors)
-    for (const QByteArray &bytes : files)
-      check(bytes, MeldungLesefehler(number));
+  check("7\r\n3350\r\n", MeldungLesefehler(5));
+  for (const char *text : {"sieben\n1\n2\n", "7\n1\nNormal\n", " \n1\n2\n", "-\n1\n2\n",
+                           "1 2\n1\n2\n", "99999999999999999999x\n1\n2\n"})
+    check(text, MeldungLesefehler(6));
+  for (const char *range :
+       {"32767\n1\n2\n", "99999999999999999999\n1\n2\n", "-1\n1\n2\n", "7\n1\n0\n", "7\n1\n4\n"})
+    check(range, MeldungLesefehler(7));
 }
 
 TEST_F(SavedGame, AfterTheYesTheGameEndsOrFailsByPointsWithoutAValue) {
@@ -93,7 +86,7 @@ TEST_F(SavedGame, AfterTheYesTheGameEndsOrFailsByPointsWithoutAValue) {
   LadeSpielstand(screen, path);
   screen.messages.erase(screen.messages.begin());
   ExpectMessage(MeldungLesefehler(7));
-  ExpectGame(3, 2900, 450, 2);
+  EXPECT_EQ(Game(), (std::vector{3, 2900, 450, 2}));
   WriteFile(path, "32766\r\n500\r\n2\r\n");
   LadeSpielstand(screen, path);
   EXPECT_TRUE(screen.ended);
@@ -101,10 +94,6 @@ TEST_F(SavedGame, AfterTheYesTheGameEndsOrFailsByPointsWithoutAValue) {
 
 class BestList : public DataFixture {
  protected:
-  BestList() {
-    BestenlisteAnlegen();
-    BestenlisteLaden(screen);
-  }
   void Offer(std::int32_t points, std::int16_t answer) {
     spiel.Punkte = points;
     screen.answers = {answer};
@@ -113,6 +102,8 @@ class BestList : public DataFixture {
 };
 
 TEST_F(BestList, OnlyAnAcceptedPlaceIsAnEntry) {
+  BestenlisteAnlegen();
+  BestenlisteLaden(screen);
   Offer(13000, kJa);
   ExpectMessage(MeldungKeinBesteneintrag);
   Offer(13001, kNein);
@@ -122,7 +113,7 @@ TEST_F(BestList, OnlyAnAcceptedPlaceIsAnEntry) {
 }
 
 TEST_F(BestList, ADamagedFileStaysAndTheGameGoesOn) {
-  const QByteArray names = "A\nB\nC\nD\nE\n";
+  const QByteArray names = "A\nB\nC\nD\nE\n", four = names + "900\n800\n700\n600\n";
   const struct {
     QByteArray bytes;
     int number, names, points, place;
@@ -130,9 +121,9 @@ TEST_F(BestList, ADamagedFileStaysAndTheGameGoesOn) {
   } cases[] = {
       {"", 5, 0, 0, 0, "Niemand"},
       {"A\nB", 5, 2, 0, 0, "Niemand"},
-      {names + "900\n800\n700\n600\n", 5, 5, 4, 4, "Spieler"},
-      {names + "900\n800\n700\n600\nletzter", 6, 5, 5, 4, "Spieler"},
-      {names + "900\n800\n700\n600\n2147483648", 7, 5, 5, 4, "Spieler"},
+      {four, 5, 5, 4, 4, "Spieler"},
+      {four + "letzter", 6, 5, 5, 4, "Spieler"},
+      {four + "2147483648", 7, 5, 5, 4, "Spieler"},
       {names + "900\nviele\n700\n600\n500\nmehr", 0, 5, 5, 1, "D"},  // Only the last is checked.
       {names + " 900\n800\n700\n600\n500", 0, 5, 5, 4, "Spieler"},
   };
@@ -141,10 +132,9 @@ TEST_F(BestList, ADamagedFileStaysAndTheGameGoesOn) {
     spiel.Bestenschwelle = 77;
     WriteFile(BestenlistePfad(), c.bytes);
     BestenlisteLaden(screen);
-    if (c.number != 0) {
+    if (c.number != 0)
       ExpectMessage(MeldungBesteNichtGelesen(c.number));
-      EXPECT_EQ(spiel.Bestenschwelle, 77);
-    }
+    EXPECT_EQ(spiel.Bestenschwelle, c.number != 0 ? 77 : 500);
     EXPECT_EQ(static_cast<int>(spiel.Beste.lstName.size()), c.names);
     EXPECT_EQ(static_cast<int>(spiel.Beste.lstPunkte.size()), c.points);
     EXPECT_EQ(ReadFile(BestenlistePfad()), c.bytes);
@@ -159,15 +149,11 @@ TEST_F(BestList, ADamagedFileStaysAndTheGameGoesOn) {
   }
 }
 
-class TextFile : public testing::Test {
- protected:
-  QTemporaryDir folder;
-  QString path = folder.filePath("datei");
-};
+using TextFile = DataFixture;
 
 TEST_F(TextFile, OnlyAMissingNameInAnExistingFolderIsMissing) {
   WriteFile(path, "");
-  for (const char *name : {"", "/datei", "/fehlt/datei", "/datei/x"})
+  for (const char *name : {"", "/spiel.sar", "/fehlt/datei", "/spiel.sar/x"})
     EXPECT_TRUE(ExistiertDatei(folder.path() + name)) << name;
   EXPECT_FALSE(ExistiertDatei(folder.path() + "/fehlt"));
   EXPECT_FALSE(ExistiertDatei(""));
@@ -201,10 +187,10 @@ TEST_F(TextFile, TheCodePageKeepsEachByte) {
   for (int byte = 0; byte < 256; ++byte)
     all.append(static_cast<char>(byte));
   all.replace("\n", "").replace("\r", "");
-  WriteFile(path, all + "\r\n");
-  const Textzeilen read = LiesZeilen(path, 1);
-  EXPECT_TRUE(read.Zeilen.value(0).contains("€\u0081‚ƒ"));
-  ASSERT_EQ(SchreibeZeilen(path, read.Zeilen), Dateifehler::Keiner);
+  WriteFile(path, all);
+  const QStringList lines = LiesZeilen(path, 1).Zeilen;
+  EXPECT_TRUE(lines.value(0).contains("€\u0081‚ƒ"));
+  SchreibeZeilen(path, lines);
   EXPECT_EQ(ReadFile(path), all + "\r\n");
   EXPECT_EQ(Speicherbar("Ju\u0308rg €\U0001F600 Ł\r\n?"), "Jürg € ?");
   SchreibeZeilen(path, {"Jörg € »ß« 😀 Ł", "a\r\nb", ""});
