@@ -34,14 +34,13 @@ class WindowFixture : public testing::Test {
       window->close();
     });
   }
-  /// Asks a question, acts on its window, which closes then, and returns the answer.
-  std::int16_t Ask(const std::function<void(Meldefenster &)> &action) {
+  /// Asks a question and acts on its window, which closes then.
+  void Ask(const std::function<void(Meldefenster &)> &action) {
     Then<Meldefenster>([action](Meldefenster &window) {
       action(window);
       window.close();
     });
     board->Frage(FrageBeenden);
-    return spiel.Antwort;
   }
   /// Answers the next question by a key.
   void ThenAnswer(const char *key) {

@@ -1,0 +1,333 @@
+// The windows, played by mouse and keyboard.
+#include <QtTest/qtestspontaneevent.h>
+#include <QAction>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "controls/bilder.h"
+#include "controls/zifferreihe.h"
+#include "dialogs/frmBeste.h"
+#include "dialogs/frmHintergrund.h"
+#include "dialogs/frmOptionen.h"
+#include "persistence/modDateiHandling.h"
+#include "tests/window_fixture.h"
+
+namespace {
+
+using Messages = WindowFixture;
+
+TEST_F(Messages, CloseByAnAnswerOnly) {
+  for (const auto &[button, answer] : {std::pair("lblJa", kJa),
+                                       {"lblNein", kNein},
+                                       {"Image1", kAbgebrochen},
+                                       {"", kAbgebrochen}}) {
+    Ask([name = button](Meldefenster &window) {
+      for (const char *key : {"Return", "Enter", "F1", "Space", "Ctrl+J", "Alt+N", "Meta+Esc"})
+        Press(window, key);
+      QTest::mousePress(Find(window, "lblJa"), Qt::LeftButton);
+      QTest::mouseRelease(Find(window, "lblJa"), Qt::LeftButton, {}, QPoint(-50, 0));
+      EXPECT_TRUE(window.isVisible());
+      if (*name)
+        Click(Find(window, name));
+    });
+    EXPECT_EQ(spiel.Antwort, answer) << button;
+  }
+  // A key counts by its place where the alphabet has no Latin letters.
+  for (const auto &[place, answer] : {std::pair(0x24U, kJa), {0x31U, kNein}}) {
+    Ask([place = place](Meldefenster &window) {
+      for (const int key : {0x58, 0x41E}) {
+        EXPECT_TRUE(window.isVisible());
+        QKeyEvent event(QEvent::KeyPress, key, {}, place + KEY_OFFSET, 0, 0);
+        QApplication::sendEvent(&window, &event);
+      }
+    });
+    EXPECT_EQ(spiel.Antwort, answer);
+  }
+}
+
+TEST_F(Messages, StandInTheirPlaceAndLetTheArrowBlink) {
+  const QRect main = board->frameGeometry();
+  const auto ExpectPicture = [this](const char *arrow, const char *picture) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Find(*board, arrow)->Bildname() == picture; }, 2000));
+  };
+  Ask([&](Meldefenster &window) {
+    EXPECT_EQ(window.pos(),
+              main.topLeft() + QPoint((main.width() - 392) / 2, (main.height() - 236) / 2));
+    ExpectPicture("imgZeigeStart", "pfeilhoch1");
+  });
+  Then<frmMsgOk>([&](frmMsgOk &window) {
+    EXPECT_EQ(window.pos(), main.topLeft() + QPoint(7, 7));
+    window.close();
+  });
+  board->Melde(MeldungVielenDank);
+  Click("imgNeuesSpiel");
+  Lose();
+  ExpectPicture("imgWeiter", "pfeil0");
+}
+
+TEST_F(Messages, TheSecondPressOfADoubleClickCountsOnlyWhereTheFirstDid) {
+  Click("imgNeuesSpiel");
+  int cell = 1;
+  while (board->LiesKachel(cell) != Kachel::Verdeckt)
+    ++cell;
+  const auto Send = [&](QEvent::Type press, quint64 time) {
+    for (const auto type : {press, QEvent::MouseButtonRelease}) {
+      QMouseEvent event(type, {5, 5}, {5, 5}, Qt::RightButton, Qt::RightButton, {});
+      event.setTimestamp(time);
+      QApplication::sendEvent(Find(*board, "imgSar" + QString::number(cell)), &event);
+    }
+    return board->LiesKachel(cell);
+  };
+  EXPECT_EQ(Send(QEvent::MouseButtonDblClick, 100'000), Kachel::Verdeckt);
+  EXPECT_EQ(Send(QEvent::MouseButtonPress, 200'000), Kachel::Markiert);
+  EXPECT_EQ(Send(QEvent::MouseButtonDblClick, 200'100), Kachel::Verdeckt);
+  // A question would fail the test.
+  QTest::mouseDClick(Find(*board, "imgNeuesSpiel"), Qt::LeftButton);
+}
+
+TEST_F(Messages, AHeldKeyDoesNotCountInTheNextWindow) {
+  const auto Send = [](quint64 release, quint64 press, QWidget *target) {
+    for (const auto &[type, time] :
+         {std::pair(QEvent::KeyRelease, release), {QEvent::KeyPress, press}}) {
+      QKeyEvent event(type, Qt::Key_J, {}, "j");
+      event.setTimestamp(time);
+      QApplication::sendEvent(target, &event);
+    }
+  };
+  spiel.Punkte = 20000;
+  Then<frmMsgJa>([&](frmMsgJa &window) { Send(900, 1000, &window); });
+  Then<frmBeste>([&](frmBeste &window) {
+    auto *name = window.findChild<QLineEdit *>();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    Send(1030, 1030, name);  // An X server reports repeats this way.
+    Send(1060, 1061, name);
+    Send(1030, 1030, name);  // A copy that assistive technology sends late.
+    EXPECT_EQ(name->text(), "Spieler");
+    for (const char *key : {"J", "Alt+A"})
+      Press(*name, key);
+    EXPECT_EQ(name->text(), "j");
+    name->clear();
+    name->insert("Łu\u0308€");
+    EXPECT_EQ(name->text(), "ü€");
+    window.close();
+  });
+  board->BestenlistePruefen();
+}
+
+using MainWindow = WindowFixture;
+
+TEST_F(MainWindow, StandsInTheMiddleBeforeACoverThatBringsItBack) {
+  EXPECT_EQ(spiel.Bestenschwelle, 13000);
+  const QPoint middle = board->screen()->availableGeometry().center();
+  EXPECT_LE((board->frameGeometry().center() - middle).manhattanLength(), 2);
+  QWidget *cover = nullptr;
+  for (QWidget *window : QApplication::topLevelWidgets())
+    if (qobject_cast<frmHintergrund *>(window) && window->isVisible())
+      cover = window;
+  ASSERT_NE(cover, nullptr);
+  EXPECT_EQ(cover->geometry(), board->screen()->geometry());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return cover->updatesEnabled(); }));
+  Ask([&](Meldefenster &window) {
+    board->showMinimized();
+    Click(cover);
+    EXPECT_TRUE(window.isActiveWindow() && !board->isMinimized());
+  });
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
+}
+
+TEST_F(MainWindow, ShowsAllAtOnceAndDecodesNoPictureWhilePlaying) {
+  QCoreApplication::processEvents();
+  const int loaded = GeladeneBilder();
+  const auto ExpectPainted = [this] {
+    QTest::qWait(20);
+    const QImage screen = board->screen()->grabWindow(board->winId()).toImage();
+    EXPECT_EQ(screen, board->grab().toImage());
+  };
+  for (int level = 0; level < 3; ++level) {
+    spiel.Punkte = 0;
+    Click("imgNeuesSpiel");
+    ExpectPainted();
+    Lose();
+    const QImage errors = board->findChildren<Zifferreihe *>().at(2)->grab().toImage();
+    EXPECT_EQ(errors.copy(14, 0, 14, 28).convertToFormat(QImage::Format_RGB32),
+              Katalogbild("rot2", 1).toImage().convertToFormat(QImage::Format_RGB32));
+    Click("cmdWiederholen");
+    ExpectPainted();
+  }
+  EXPECT_EQ(GeladeneBilder(), loaded);
+}
+
+TEST_F(MainWindow, LeavesTheKeysAloneWithoutAssistiveTechnology) {
+  Click("imgNeuesSpiel");
+  const int rest = spiel.SarantenRest;
+  for (const char *key : {"Tab", "Down", "Space", "Shift+Tab", "Return"})
+    Press(*board, key);
+  EXPECT_EQ(board->focusWidget(), nullptr);
+  EXPECT_EQ(spiel.SarantenRest, rest);
+}
+
+TEST_F(MainWindow, LetsOnlyThoseActWithoutAMouseWhomAMouseReaches) {
+  const auto Use = [this](const QString &name) { Find(*board, name)->Bediene(Qt::LeftButton); };
+  Use("imgNeuesSpiel");
+  for (const char *hidden : {"cmdWiederholen", "imgNextLevel", "imgModus1"})
+    Use(hidden);
+  EXPECT_EQ(spiel.Level, 1);
+  EXPECT_EQ(spiel.Spielmodus, kModusNormal);
+  Bild *held = Find(*board, "lblInfo");
+  QTest::mousePress(held, Qt::LeftButton);
+  EXPECT_EQ(held->Bildname(), "cmdBeschreibungenFruen");
+  Ask([&](Meldefenster &window) {
+    EXPECT_EQ(held->Bildname(), "cmdBeschreibungenAuswahl");
+    for (int n = 1; n <= kZellen; ++n)
+      Use("imgSar" + QString::number(n));
+    Use("imgEnde");
+    for (QAction *entry : board->findChildren<QAction *>())
+      entry->trigger();
+    EXPECT_TRUE(window.isVisible());
+  });
+  EXPECT_EQ(spiel.SarantenRest, 75 - spiel.Startfelder);
+  EXPECT_TRUE(spiel.SoundAn && spiel.Fehler == 0);
+  EXPECT_EQ(board->findChild<frmBeste *>(), nullptr);
+}
+
+TEST_F(MainWindow, SavesUnderTheNameThatStandsInTheField) {
+  board->Zeige(Bedienung::imgSpeichern, true);
+  QDir(DataFile("")).removeRecursively();
+  const auto SaveAs = [&](const QString &name) {
+    Then<QFileDialog>([name](QFileDialog &dialog) {
+      QTest::keyClicks(Find<QLineEdit>(dialog, "fileNameEdit"), name);
+      Click(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save));
+    });
+    Click("imgSpeichern");
+  };
+  for (const char *name : {".sar", "\".sar", "Spiel \"Anna\".sar", ":Anna.sar ", "a b"}) {
+    SaveAs(name);
+    EXPECT_TRUE(QFile::exists(DataFile(MitEndung(QString(name).trimmed())))) << name;
+    EXPECT_TRUE(SpielstandVorhanden());
+  }
+}
+
+TEST_F(MainWindow, EachTierInEachModeBeginsItsGame) {
+  for (int mode = 1; mode <= kModi; ++mode) {
+    for (int tier = 0; tier < 6; ++tier) {
+      const bool changed = mode != spiel.Spielmodus;
+      WriteFile(DataFile("sarant.ini"), "other");
+      for (const char *answer : {"N", "J"}) {
+        spiel.Punkte = 0;
+        Then<frmOptionen>([&](frmOptionen &window) {
+          if (tier != 0)  // The first tier is chosen already, and its face takes no clicks.
+            Click(Find(window, "imgLevel" + QString::number(tier)));
+          if (changed)
+            Click(Find(window, "imgModus" + QString::number(mode)));
+          ThenAnswer(answer);
+          Click(Find(window, "cmdNehmen"));
+        });
+        Click("imgEinstellungen");
+        EXPECT_EQ(spiel.Punkte != 0, *answer == 'J');
+      }
+      EXPECT_EQ(Find(*board, "imgZeigeStart")->Bildname(), "");
+      EXPECT_EQ(10 * spiel.Level + spiel.Spielmodus, 10 * (5 * tier + 1) + mode);
+      // A mode that stays as it was is not written.
+      EXPECT_EQ(ReadFile(DataFile("sarant.ini")).trimmed(),
+                changed ? QByteArray::number(mode) : "other");
+    }
+  }
+}
+
+class BestWindow : public WindowFixture {
+ protected:
+  frmBeste &Window() { return board->Bestenfenster(); }
+  /// Enters the list with some points, and does something with the open window.
+  void Enter(std::int32_t points, const std::function<void(frmBeste &)> &action) {
+    spiel.Punkte = points;
+    ThenAnswer("J");
+    Then<frmBeste>(action);
+    board->BestenlistePruefen();
+  }
+  QByteArray Saved() { return ReadFile(DataFile("sarant.txt")).simplified(); }
+  bool MayBeCleared() { return !Find(Window(), "lblClear")->isHidden(); }
+  QString Points(int row) { return Window().findChildren<Zifferreihe *>().at(row)->Gezeigt(); }
+  QLineEdit *Name(int row) { return Window().findChildren<QLineEdit *>().at(row); }
+  void Ok() { Click(Find(Window(), "cmdEnde")); }
+};
+
+TEST_F(BestWindow, TakesTheNameAndOnlyYesClearsTheList) {
+  const QByteArray before = Saved();
+  Enter(14500, [](frmBeste &window) { window.close(); });
+  EXPECT_EQ(Saved(), before);
+  Enter(14500, [this](frmBeste &window) {
+    EXPECT_EQ(Points(1) + Points(2) + Name(2)->selectedText(), "1450014500Spieler");
+    EXPECT_FALSE(MayBeCleared());
+    Name(2)->insert("Käthe €");  // As an input method would; it replaces the selection.
+    QShowEvent restored;         // By the desktop, after the window was minimised.
+    QSpontaneKeyEvent::setSpontaneous(&restored);
+    qApp->notify(&window, &restored);
+    for (const char *key : {"Return", "Esc", "Alt+A"})
+      Press(window, key);
+    ASSERT_TRUE(window.isVisible());
+    Ok();
+  });
+  EXPECT_TRUE(Saved().startsWith(
+      "Niemand Niemand K\xe4the \x80 Niemand Niemand 15000 14500 14500 14000 13500"));
+  Enter(20000, [this](frmBeste &) {
+    Name(0)->clear();
+    Ok();
+  });
+  EXPECT_TRUE(Saved().startsWith("Spieler Niemand"));
+  EXPECT_EQ(spiel.Bestenschwelle, 14000);
+  Window().close();  // Unloading brings the access key back.
+  for (const char *answer : {"N", "J"}) {
+    Window().ZeigeZumLesen();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    ThenAnswer(answer);
+    Press(Window(), "Alt+A");
+    EXPECT_EQ(Saved() == before, *answer == 'J');
+    EXPECT_TRUE(Window().isHidden());
+  }
+  EXPECT_EQ(spiel.Bestenschwelle, 13000);
+  Window().ZeigeZumLesen();  // A list of defaults is not cleared.
+  EXPECT_FALSE(MayBeCleared());
+}
+
+TEST_F(BestWindow, ForReadingAllIsLockedUntilAnEntryTakesTheWindow) {
+  WriteFile(DataFile("sarant.txt"), "A\r\nB\r\nC\r\nD\r\nE\r\n1234567\r\n 42\r\nabc\r\n0\r\n7\r\n");
+  Window().ZeigeZumLesen();
+  const char *shown[] = {"1234567", "42", "", "", "7"};
+  for (int row = 0; row < kBeste; ++row)
+    EXPECT_EQ(Points(row), shown[row]);
+  EXPECT_EQ(Window().pos(), board->frameGeometry().topLeft() - QPoint(7, 7));
+  QTest::keyClicks(Name(0), "x");
+  EXPECT_EQ(Name(0)->text(), "A");
+  Enter(40, [this](frmBeste &) { Ok(); });
+  EXPECT_TRUE(Window().isHidden());
+  EXPECT_TRUE(Saved().startsWith("A B Spieler C D"));
+}
+
+TEST_F(BestWindow, AShortListIsFullAfterOkAndWhatWasNotClearedIsTold) {
+  const auto ThenMessage = [this](const Meldung &message) {
+    Then<frmMsgOk>([message](frmMsgOk &window) {
+      const QString text = QString::fromStdString(message.lblMeldung).remove('\r');
+      EXPECT_EQ(Text(window, "lblMeldung"), text);
+      window.close();
+    });
+  };
+  WriteFile(DataFile("sarant.txt"), "");
+  ThenMessage(MeldungBesteNichtGelesen(5));
+  Window().ZeigeZumLesen();
+  EXPECT_FALSE(MayBeCleared());
+  Ok();
+  Window().ZeigeZumLesen();
+  QFile::remove(DataFile("sarant.txt"));
+  QDir().mkdir(DataFile("sarant.txt"));
+  ThenAnswer("J");
+  ThenMessage(MeldungBesteNichtGespeichert);
+  ThenMessage(MeldungBesteNichtGelesen(2));
+  ASSERT_TRUE(MayBeCleared());
+  Click(Find(Window(), "lblClear"));
+}
+
+}  // namespace
