@@ -48,7 +48,7 @@ class WindowFixture : public testing::Test {
   }
 
   template <class Element = Bild>
-  static Element *Find(QWidget &window, const QString &name) {
+  static Element *Find(const QWidget &window, const QString &name) {
     auto *element = window.findChild<Element *>(name);
     EXPECT_NE(element, nullptr) << name.toStdString();
     return element;
@@ -59,7 +59,7 @@ class WindowFixture : public testing::Test {
   }
   static void Click(QWidget *target) { QTest::mouseClick(target, Qt::LeftButton); }
   void Click(const QString &name) { Click(Find(*board, name)); }
-  static QString Text(QWidget &window, const QString &name) {
+  static QString Text(const QWidget &window, const QString &name) {
     return Find<QLabel>(window, name)->text();
   }
   /// Opens cells until the level of a game just begun is lost.

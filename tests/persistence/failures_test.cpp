@@ -1,4 +1,5 @@
 // Everything that keeps a file from being written or read, provoked on a real file system.
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -11,44 +12,38 @@
 #include "platform/datenwurzel.h"
 #include "tests/persistence/fixture.h"
 
-static int writeError = 0, syncError = 0;
+static int writeError = 0, syncError = 0, refused = 0;
 
-// In place of the system's own, so that they fail as on a disk that is full or broken.
-extern "C" ssize_t write(int file, const void *bytes, std::size_t count) {
+// In place of the system's own, so that they fail as on a disk that is full, broken or protected.
+extern "C" {
+ssize_t write(int file, const void *bytes, std::size_t count) {
   errno = writeError;
   return writeError == 0 ? syscall(SYS_write, file, bytes, count) : -1;
 }
-extern "C" int fsync(int file) {
+int fsync(int file) {
   errno = syncError;
   return syncError == 0 ? static_cast<int>(syscall(SYS_fsync, file)) : -1;
+}
+int open64(const char *path, int flags, ...) {
+  errno = EACCES;
+  return (flags & refused) == 0 ? static_cast<int>(syscall(SYS_open, path, flags, 0666)) : -1;
+}
 }
 
 namespace {
 
 class Failure : public DataFixture {
  protected:
-  QTemporaryDir shared{"/dev/shm/failure-XXXXXX"};  // Any user may go there.
-  QString data = shared.filePath("data");
+  QString data = folder.filePath("data");
   QStringList files;
 
   Failure() {
-    chmod(qPrintable(shared.path()), 0755);
     QDir().mkdir(data);
     spiel.Datenordner = data.toStdString();
     spiel.Beste.lstPunkte = {"5", "4", "3", "2", "1"};
     spiel.Bestenschwelle = 77;
     path = data + "/spiel.sar";
     files = {path, IniPfad(), BestenlistePfad()};
-  }
-
-  void WriteOldFiles() {
-    for (const QString &file : files)
-      WriteFile(file, "old");
-  }
-  void ExpectOldFiles() {
-    for (const QString &file : files)
-      EXPECT_EQ(ReadFile(file), "old");
-    EXPECT_EQ(QDir(data).entryList(QDir::Files | QDir::Hidden).size(), 3) << "no remains";
   }
 
   /// Each operation tells the failure in its own way and changes nothing.
@@ -89,38 +84,23 @@ TEST_F(Failure, SomethingIsMissingOrAFolderOrBrokenOrLong) {
   ExpectMessage(MeldungSchreibfehler(8));
 }
 
-TEST_F(Failure, RightsAreMissing) {
-  WriteOldFiles();
-  const QString writable = shared.filePath("writable.sar");  // In a folder that is not.
-  WriteFile(writable, "old");
-  chmod(qPrintable(writable), 0666);
-  chmod(qPrintable(data), 0777);
+TEST_F(Failure, TheDiskIsFullOrDoesNotConfirmOrRightsAreMissing) {
   for (const QString &file : files)
-    chmod(qPrintable(file), 0);
-  const uid_t real = getuid();  // Root may do everything.
-  const uid_t nobody = real == 0 ? 65534 : real;
-  ASSERT_EQ(setresuid(nobody, nobody, real), 0);
-  ExpectWriteError(2);
-  ExpectReadError(2);
-  spiel.Level = 3;
-  SpeichereSpielstand(screen, writable);
-  EXPECT_TRUE(screen.messages.empty());
-  ASSERT_EQ(setresuid(real, real, real), 0);
-  for (const QString &file : files)
-    chmod(qPrintable(file), 0600);
-  ExpectOldFiles();
-  EXPECT_EQ(ReadFile(writable).left(1), "3");
-}
-
-TEST_F(Failure, TheDiskIsFullOrDoesNotConfirm) {
-  WriteOldFiles();
+    WriteFile(file, "old");
   writeError = ENOSPC;
   ExpectWriteError(4);
   writeError = 0;
   syncError = EIO;
   ExpectWriteError(8);
   syncError = 0;
-  ExpectOldFiles();
+  refused = O_CLOEXEC;  // Each file is opened with it.
+  ExpectWriteError(2);
+  ExpectReadError(2);
+  refused = O_EXCL;  // The folder takes no new file.
+  SchreibeIni();
+  refused = 0;
+  EXPECT_EQ(ReadFile(path) + ReadFile(BestenlistePfad()) + ReadFile(IniPfad()), "oldold2\r\n");
+  EXPECT_EQ(QDir(data).entryList(QDir::Files | QDir::Hidden).size(), 3) << "no remains";
 }
 
 TEST_F(Failure, LinksAndModesStay) {
