@@ -127,16 +127,15 @@ TEST_F(Failure, LinksAndModesStay) {
 TEST_F(Failure, TheEnvironmentDecidesWhereTheDataLie) {
   WriteFile(path, "");
   const QByteArray home = folder.path().toUtf8(), relative = "kein/voller/pfad";
-  const QByteArray cases[][3] = {
-      // HOME, XDG_DATA_HOME, and the root.
-      {home, "", home + "/.local/share"},  // Created on the way.
-      {relative, home + "/xdg", home + "/xdg"}, {"", relative, ""}, {relative, "", ""},
-      {path.toUtf8() + "/home", "", ""},  // A home directory that cannot exist.
-  };
-  for (const auto &[homeDirectory, xdg, root] : cases) {
-    qputenv("HOME", homeDirectory);
+  const QByteArray cases[][3] = {// HOME, XDG_DATA_HOME and the folder, which is made on the way.
+                                 {home, "", home + "/.local/share"},
+                                 {relative, home + "/xdg", home + "/xdg"},
+                                 {"", relative, ""},
+                                 {path.toUtf8() + "/home", "", ""}};
+  for (const auto &[userHome, xdg, root] : cases) {
+    qputenv("HOME", userHome);
     qputenv("XDG_DATA_HOME", xdg);
-    EXPECT_EQ(Datenwurzel(), root) << homeDirectory.data() << " " << xdg.data();
+    EXPECT_EQ(Datenwurzel(), root) << userHome.data() << " " << xdg.data();
     EXPECT_TRUE(root.isEmpty() || QDir(root).exists());
   }
 }

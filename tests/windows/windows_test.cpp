@@ -184,6 +184,8 @@ TEST_F(MainWindow, LetsOnlyThoseActWithoutAMouseWhomAMouseReaches) {
   });
   EXPECT_EQ(spiel.SarantenRest, 75 - spiel.Startfelder);
   EXPECT_TRUE(spiel.SoundAn && spiel.Fehler == 0);
+  Find<QAction>(*board, "mnusoundan2")->trigger();
+  EXPECT_FALSE(spiel.SoundAn);
   EXPECT_EQ(board->findChild<frmBeste *>(), nullptr);
 }
 
@@ -212,10 +214,13 @@ TEST_F(MainWindow, EachTierInEachModeBeginsItsGame) {
     for (const char *answer : {"N", "J"}) {
       spiel.Punkte = 0;
       Then<frmOptionen>([&](frmOptionen &window) {
-        if (tier != 0)  // The first tier is chosen already, and its face takes no clicks.
-          Click(Find(window, "imgLevel" + QString::number(tier)));
-        if (changed)
-          Click(Find(window, "imgModus" + QString::number(mode)));
+        for (const QString &name :
+             {QString("imgLevel%1").arg(tier), QString("imgModus%1").arg(mode)}) {
+          Bild *face = Find(window, name);
+          if (face->isVisible())  // It is not the chosen one, which has another face.
+            Click(face);
+          EXPECT_TRUE(face->isHidden());
+        }
         ThenAnswer(answer);
         Click(Find(window, "cmdNehmen"));
       });
@@ -225,8 +230,8 @@ TEST_F(MainWindow, EachTierInEachModeBeginsItsGame) {
     EXPECT_EQ(Find(*board, "imgZeigeStart")->Bildname(), "");
     EXPECT_EQ(10 * spiel.Level + spiel.Spielmodus, 10 * (5 * tier + 1) + mode);
     // A mode that stays as it was is not written.
-    EXPECT_EQ(ReadFile(DataFile("sarant.ini")),
-              changed ? QByteArray::number(mode) + "\r\n" : "other");
+    EXPECT_EQ(ReadFile(DataFile("sarant.ini")).trimmed(),
+              changed ? QByteArray::number(mode) : "other");
   }
 }
 
