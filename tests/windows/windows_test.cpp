@@ -135,6 +135,7 @@ TEST_F(MainWindow, StandsInTheMiddleBeforeACoverThatBringsItBack) {
     board->showMinimized();
     Click(cover);
     EXPECT_TRUE(window.isActiveWindow() && !board->isMinimized());
+    EXPECT_EQ(board->centralWidget()->internalWinId(), 0U) << "it is no window of its own";
   });
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
 }
