@@ -92,23 +92,23 @@ def startzeilen(schirm, spiel, leer):
 def spielzeilen(pfad, uhr):
     """The rows about clicks and idle minutes in a real level."""
     put("bench.sar", 39, 500, 1)
-    with Driver(pfad, Audio(pfad), uhr) as spiel:
-        spiel.load("bench.sar")
-        pid = spiel.program.process.pid
-        zelle = spiel.program.cell(spiel.cell_with(COVERED))
-        for _ in range(KLICKS):
-            uhr.click(zelle, 3)
-        rechts = statistics.median(uhr.times)
-        spielend = rechenzeit(pid)
-        uhr.times.clear()
-        spiel.win()
-        links = statistics.median(uhr.times)
-        return [
-            ("Right press to painted pixel, median", f"{rechts:.1f} ms"),
-            ("Left press to painted pixel, with sound, median", f"{links:.1f} ms"),
-            ("Processor time of an idle minute, playing", f"{spielend:.0f} ms"),
-            ("Processor time of an idle minute, solved (arrow blinks)",
-             f"{rechenzeit(pid):.0f} ms")]
+    spiel = Driver(pfad, Audio(pfad), uhr)
+    spiel.load("bench.sar")
+    pid = spiel.program.process.pid
+    zelle = spiel.program.cell(spiel.cell_with(COVERED))
+    for _ in range(KLICKS):
+        uhr.click(zelle, 3)
+    rechts = statistics.median(uhr.times)
+    spielend = rechenzeit(pid)
+    uhr.times.clear()
+    spiel.win()
+    links = statistics.median(uhr.times)
+    return [
+        ("Right press to painted pixel, median", f"{rechts:.1f} ms"),
+        ("Left press to painted pixel, with sound, median", f"{links:.1f} ms"),
+        ("Processor time of an idle minute, playing", f"{spielend:.0f} ms"),
+        ("Processor time of an idle minute, solved (arrow blinks)",
+         f"{rechenzeit(pid):.0f} ms")]
 
 
 def regelzeilen(programm):

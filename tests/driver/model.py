@@ -33,9 +33,8 @@ class Board:
         if any(list(places) != list(range(1, len(places) + 1)) for places in numbers.values()):
             raise Contradiction("a gap between numbers")
         self.runs = {line: tuple(numbers.get(line, {}).values()) * (gems > 0) for line in LINES}
-        for kind in "Spalte", "Zeile":
-            if gems != (total := sum(sum(run) for line, run in self.runs.items() if line[0] == kind)):
-                raise Contradiction(f"the numbers of a {kind} add up to {total}, not {gems}")
+        if sum(map(sum, self.runs.values())) != 2 * gems:
+            raise Contradiction(f"the numbers do not add up to {gems} gems: {numbers}")
         self.known = {}
         self.conclude(LINES)
 
@@ -81,41 +80,40 @@ class Model:
         self.may_load = any(name.endswith(".sar") for name in files)
         self.phase, self.best, self.board = "waiting", False, None
         self.level = self.points = self.result = 0
-        self.text = "Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\""
+        self.hint = "Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\""
         self.tiles = dict.fromkeys(CELLS, COVERED)
         self.numbers = {line: dict.fromkeys(range(1, 6), 0) for line in LINES}
 
     def gems(self):
-        return 76 - max(self.level, 1)
+        return 76 - self.level if self.level else 0
 
     def count(self, tile):
         return list(self.tiles.values()).count(tile)
 
     def rest(self):
-        return self.gems() - self.count(GEM) if self.level else 0
+        return self.gems() - self.count(GEM)
 
     def view(self):
-        shown = {"Spiel laden": self.may_load, "Spiel speichern": self.phase == "won",
-                 "Nächster Level": self.phase == "won", "Wiederholen": self.phase == "lost",
-                 "Bester Spieler": self.best}
+        """What the program must show and store."""
+        shown = {"Spiel laden": self.may_load, "Bester Spieler": self.best,
+                 "Spiel speichern": self.phase == "won", "Nächster Level": self.phase == "won",
+                 "Wiederholen": self.phase == "lost"}
         shown |= {name + "*" * (mode == self.mode): self.phase == "waiting"
                   for mode, name in MODES.items()}
         panel = {"Punkte": str(self.points), "Fehlversuche": str(self.count(WRONG)),
                  "Levelpunkte": str(self.result or "leer").replace("-", "minus "),
                  "noch offen": str(self.rest()), "Level": str(self.level)}
-        return {"tiles": self.tiles, "numbers": self.numbers, "panel": panel, "texts": [self.text],
-                "files": self.files,
+        texts = {"lost": "Klicken Sie auf »Wiederholen«", "won": "Klicken Sie auf »Nächster Level«"}
+        playing = f"Spielmodus: {MODES[self.mode]} Es sind {self.gems()} Saranten auf dem Spielfeld."
+        return {"tiles": self.tiles, "numbers": self.numbers, "panel": panel, "files": self.files,
+                "texts": [self.hint or texts.get(self.phase, playing)],
                 "buttons": {"Hilfe", "Info", "Einstellungen", "Neues Spiel", "Beenden",
                             *(name for name, visible in shown.items() if visible)}}
-
-    def mode_line(self, blanks=3):
-        return (f"Spielmodus:{' ' * blanks}{MODES[self.mode]}\n"
-                f"Es sind {self.gems()} Saranten auf dem Spielfeld.")
 
     def new_game(self, finished=0, points=500, mode=None):
         """Begins a game, or goes on with one behind the level that was finished."""
         self.mode, self.points, self.result = mode or self.mode, points, 0
-        self.text, self.level = self.mode_line(2), finished
+        self.level, self.hint = finished, None
         return self.next_level(best=self.best)
 
     def next_level(self, best=None):
@@ -128,10 +126,7 @@ class Model:
         """Begins the level; what is opened and marked now is drawn, see `take_over`."""
         self.points += self.result
         self.phase, self.result, self.tiles = "playing", 0, None
-        if self.mode == 3 and self.level <= 5:  # Nothing is opened.
-            return None
-        self.text = self.mode_line()
-        return BLIP
+        return None if self.mode == 3 and self.level <= 5 else BLIP  # Nothing is opened there.
 
     def take_over(self, view):
         """Takes over what chance has drawn; a Contradiction is what the rules forbid."""
@@ -148,22 +143,16 @@ class Model:
         """A left click on a cell that the board knows."""
         if self.phase != "playing" or self.tiles[cell] == MARKED:
             return None
-        self.text, is_gem = self.mode_line(), self.board.known[cell]
+        is_gem = self.board.known[cell]
         self.tiles[cell] = GEM if is_gem else WRONG
         if self.count(WRONG) == 2:
             self.phase, self.result = "lost", -100
-            self.text = "Klicken Sie auf »Wiederholen«"
         elif self.rest() == 0:
             self.phase, self.result = "won", BONUS[self.mode]
-            self.text = "Klicken Sie auf »Nächster Level«"
             return TADA
         return BLIP if is_gem else ERROR
 
     def mark(self, cell):
         if self.phase == "playing":
-            self.text = self.mode_line()
             swapped = {COVERED: MARKED, MARKED: COVERED}
             self.tiles[cell] = swapped.get(self.tiles[cell], self.tiles[cell])
-
-    def save(self, name):
-        self.files[name] = lines(self.level, self.points + self.result, self.mode)

@@ -1,5 +1,6 @@
 """Drives the program under test: accessibility tree, mouse and keyboard. Knows no rule."""
 
+import atexit
 import os
 import re
 import subprocess
@@ -8,12 +9,11 @@ from pathlib import Path
 
 import pyatspi
 from gi.repository import GLib
+from model import Contradiction
 
 STAGE = Path(os.environ["STAGE"])
 DATA = Path(os.environ["XDG_DATA_HOME"], "nachtkammern")
-ROOT = Path(__file__).resolve().parents[2]
-VERSION = re.search(r"project\(glanzgrube VERSION ([\d.]+)", (ROOT / "CMakeLists.txt").read_text())[1]
-TITLE = f"Glanzgrube  Vers.: {VERSION}"
+TITLE = "Glanzgrube  Vers.: "
 CELL = re.compile(r"Zeile (\d+), Spalte (\d+): (\w+)$")
 NUMBER = re.compile(r"(Zeile|Spalte) (\d+), Zahl (\d+): (\d+)$")
 PANEL = re.compile(r"(Punkte|Levelpunkte|Fehlversuche|noch offen|Level): ([\w ]+)$")
@@ -26,15 +26,15 @@ class Deviation(Exception):
 
 def wait_for(condition, what, patience=20.0):
     """Polls until the condition gives a true value, and returns that value."""
-    end = time.monotonic() + patience
+    end, error = time.monotonic() + patience, None
     while time.monotonic() < end:
         try:
             if value := condition():
                 return value
-        except (GLib.GError, NotImplementedError):
-            pass  # A control has gone while it was looked at.
+        except (GLib.GError, NotImplementedError, Contradiction) as problem:
+            error = problem  # What is looked at may be changing.
         time.sleep(0.02)
-    raise Deviation(f"waited in vain: {what() if callable(what) else what}")
+    raise Deviation(f"waited in vain: {what() if callable(what) else what}") from error
 
 
 def companion(path, name):
@@ -72,13 +72,12 @@ def buttons(window):
     return [e for e in walk(window) if e.getRole() in BUTTONS]
 
 
-def captions(window):
-    """The words on all buttons, with an asterisk behind those that are chosen."""
-    return {e.name + "*" * has(e, pyatspi.STATE_CHECKED) for e in buttons(window)}
+def output(*words):
+    return subprocess.run(list(map(str, words)), check=True, stdout=subprocess.PIPE, text=True).stdout
 
 
 def xdotool(*words):
-    subprocess.run(["xdotool", *map(str, words)], check=True, stdout=subprocess.DEVNULL)
+    output("xdotool", *words)
 
 
 class Mouse:
@@ -91,15 +90,12 @@ class Mouse:
         xdotool("key", "--delay", "40", *names)
 
 
-class Bus:
+class Bus(Mouse):
     """Presses controls over the accessibility bus, on any screen."""
 
     def click(self, element, button=1):
         actions = element.queryAction()  # "Press", or "ShowMenu", or both in this order.
         actions.doAction(0 if button == 1 else actions.nActions - 1)
-
-    def key(self, *names):
-        pass
 
 
 class Program:
@@ -109,6 +105,7 @@ class Program:
         pyatspi.Registry.getDesktop(0)  # Starts the bus; the program asks for it only once.
         with open(STAGE / "stderr", "w") as stderr:
             self.process = subprocess.Popen([path], env=os.environ | environment, stderr=stderr)
+        atexit.register(self.process.kill)
         self.app = wait_for(lambda: next((app for app in filter(None, pyatspi.Registry.getDesktop(0))
                                           if app.get_process_id() == self.process.pid), None),
                             "program on the bus", 60)
@@ -116,15 +113,15 @@ class Program:
         self.app.set_cache_mask(pyatspi.Atspi.Cache.NONE)
         self.board = []
 
-    def dialogs(self, role=pyatspi.ROLE_DIALOG):
+    def windows(self, role=pyatspi.ROLE_DIALOG):
         return [w for w in self.app if w and w.getRole() == role and has(w)]
 
-    def window(self, title, role=pyatspi.ROLE_DIALOG):
-        """The window of this name and role, or None if it is not shown."""
-        return next((w for w in self.dialogs(role) if w.name == title), None)
+    def window(self, title):
+        """The dialog whose title begins like this, or None if it is not shown."""
+        return next((w for w in self.windows() if w.name.startswith(title)), None)
 
     def main_window(self):
-        return wait_for(lambda: self.window(TITLE, pyatspi.ROLE_FRAME), "main window")
+        return wait_for(lambda: self.windows(pyatspi.ROLE_FRAME), "main window")[0]
 
     def button(self, name, title=None):
         """A button or a menu entry by the words on it, in the main window or another one."""
@@ -139,9 +136,10 @@ class Program:
     def read(self, anew=False):
         """Everything that the main window shows, in the form of the model's view."""
         area = self.main_window()[0]
-        if anew or len(self.board) != area[0].childCount:  # Other numbers may be visible now.
-            self.board = list(area[0])
-        view = {"tiles": {}, "numbers": {}, "panel": {}, "texts": [], "buttons": captions(area)}
+        if anew or not self.board:  # Other numbers may be visible now.
+            self.board = list(filter(None, area[0]))
+        view = {"tiles": {}, "numbers": {}, "panel": {}, "texts": [], "buttons": {
+            e.name + "*" * has(e, pyatspi.STATE_CHECKED) for e in buttons(area)}}
         for name in [element.name for element in self.board] + labels(area):
             if hit := CELL.match(name):
                 view["tiles"][int(hit[1]), int(hit[2])] = hit[3]
@@ -151,13 +149,13 @@ class Program:
             elif hit := PANEL.match(name):
                 view["panel"][hit[1]] = hit[2]
             else:
-                view["texts"].append(name)
+                view["texts"].append(" ".join(name.split()))
         return view
 
     def rest(self):
         """The main window and the names of the others, as soon as two looks see the same."""
         def look():
-            return self.read(anew=True), [window.name for window in self.dialogs()]
+            return self.read(anew=True), [window.name for window in self.windows()]
         return wait_for(lambda: (view := look()) == look() and view, "rest")
 
     def end(self):
@@ -168,8 +166,3 @@ class Program:
         said += map(str, Path(os.environ["HOME"], ".config").rglob("Qt*"))
         if result or said:
             raise Deviation("\n".join([f"ended with {result}", *said]))
-
-    def kill(self):
-        if self.process.poll() is None:
-            self.process.kill()
-            self.process.wait()
