@@ -15,8 +15,8 @@ namespace {
 struct Eintrag {
   const char *name;
   const char *text = "";  ///< Empty for a separator.
-  std::function<void(frmSpielfeld &)> tat = {};
-  QKeySequence tasten = {};
+  std::function<void(frmSpielfeld &)> tat = nullptr;
+  QKeySequence tasten = QKeySequence::UnknownKey;
 };
 
 struct Kopf {

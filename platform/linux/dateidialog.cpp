@@ -81,7 +81,7 @@ class Dateidialog : public QFileDialog {
     if (QFileInfo(Pfad()).isDir())
       setDirectory(Pfad());
     else
-      QDialog::accept();
+      done(Accepted);
   }
 
   QLineEdit *feld_;
