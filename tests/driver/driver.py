@@ -71,8 +71,7 @@ class Driver:
         self.step(lambda: None, self.model.click(cell))
 
     def mark(self, cell, button=3):
-        self.model.mark(cell)
-        self.step(lambda: self.click(cell, button))
+        self.step(lambda: self.click(cell, button), self.model.mark(cell))
 
     def cell_with(self, tile):
         return next(cell for cell in CELLS if self.model.tiles[cell] == tile)
@@ -100,20 +99,19 @@ class Driver:
         """Reads the message that has these words, and answers it by a button or a key."""
         def read():
             window = self.program.window(TITLE)
-            return window and any(words in label for label in labels(window)) and labels(window)
-        texts = wait_for(read, words)
+            return window and any(words in label for label in labels(window))
+        wait_for(read, words)
         self.audio.listen(int(self.sound and words != "Vielen Dank!"))
         if answer in ("Ja", "Nein", "OK"):
             self.press(answer, title=TITLE)
         else:
             self.hand.key(answer)
-        wait_for(lambda: self.program.process.poll() is not None or read() != texts, f"end of {words}")
+        wait_for(lambda: self.program.process.poll() is not None or not read(), f"end of {words}")
 
     def ask(self, action, words, answer, then=None):
         """An action that leads to a message, the message, and the sound that follows the answer."""
         self.do(action)
-        self.confirm(words, answer)
-        self.step(lambda: None, then)
+        self.step(lambda: self.confirm(words, answer), then)
 
     def close(self, name, title):
         self.press(name, title=title)
@@ -125,11 +123,11 @@ class Driver:
         xdotool("type", "--delay", "40", text)
 
     def file(self, command, name):
-        """Types a name into the file dialog that a command opens; no name cancels it."""
+        """Types a name into the file dialog that a command opens."""
         title = FILE_DIALOGS[command]
         self.hand.key(command)
         self.type_into(title, name)
-        self.hand.key("Return" if name else "Escape")
+        self.hand.key("Return")
         wait_for(lambda: not self.program.window(title), f"end of {title}")
 
     def load(self, name):
