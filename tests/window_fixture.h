@@ -42,7 +42,7 @@ class WindowFixture : public testing::Test {
     });
     board->Frage(FrageBeenden);
   }
-  /// Answers the next question by a key.
+  /// Answers the next question, or closes the next message, by a key.
   void ThenAnswer(const char *key) {
     Then<Meldefenster>([key](Meldefenster &window) { Press(window, key); });
   }

@@ -304,14 +304,8 @@ TEST_F(BestWindow, ForReadingAllIsLockedUntilAnEntryTakesTheWindow) {
 }
 
 TEST_F(BestWindow, AShortListIsFullAfterOkAndWhatWasNotClearedIsTold) {
-  const auto ThenMessage = [this](const char *words) {
-    Then<frmMsgOk>([words](frmMsgOk &window) {
-      EXPECT_TRUE(Text(window, "lblMeldung").contains(words));
-      window.close();
-    });
-  };
   WriteFile(DataFile("sarant.txt"), "");
-  ThenMessage("gelesen");
+  ThenAnswer("Esc");
   Window().ZeigeZumLesen();
   EXPECT_FALSE(MayBeCleared());
   Ok();
@@ -319,9 +313,8 @@ TEST_F(BestWindow, AShortListIsFullAfterOkAndWhatWasNotClearedIsTold) {
   ASSERT_TRUE(MayBeCleared());
   QFile::remove(DataFile("sarant.txt"));
   QDir().mkdir(DataFile("sarant.txt"));
-  ThenAnswer("J");
-  ThenMessage("gespeichert");
-  ThenMessage("gelesen");
+  for (const char *key : {"J", "Esc", "Esc"})  // It could be neither written nor read.
+    ThenAnswer(key);
   Click(Find(Window(), "lblClear"));
 }
 
