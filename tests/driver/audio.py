@@ -5,9 +5,10 @@ import atexit
 import subprocess
 import time
 from itertools import pairwise
+from pathlib import Path
 from statistics import mean
 
-from program import STAGE, Deviation, companion, wait_for
+from program import STAGE, Deviation, wait_for
 
 RATE = 44100
 SLICE = RATE // 100 * 2  # bytes of a hundredth of a second
@@ -26,7 +27,7 @@ def pitches(data):
 class Audio:
     def __init__(self, path, device=True):
         self.effects = {file.name: list(pitches(file.read_bytes()[44:]))
-                        for file in companion(path, "").glob("*.WAV")}
+                        for file in Path(path).parent.glob("*.WAV")}
         self.heard, self.processes = 0, []
         atexit.register(self.close)
         self.start("pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--log-target=null",

@@ -24,18 +24,6 @@ HELD = "space", "ctrl+n", "Return", "j", "Tab", "Down"
 GONE = (GLib.GError, IndexError, KeyError, NotImplementedError, subprocess.CalledProcessError)
 
 
-def hold(program, key):
-    """What the first press of a key has done, its repeats must not go on with."""
-    try:
-        xdotool("keydown", key)
-        before = program.rest()
-        time.sleep(1)
-        if key in ("space", "ctrl+n") and program.rest() != before:
-            raise Contradiction(f"a held {key} acts more than once")
-    finally:
-        xdotool("keyup", key)
-
-
 def throw(program):
     windows, what = program.windows(), random.random()
     if any(window.name.startswith("Spieldatei") for window in windows):
@@ -48,7 +36,7 @@ def throw(program):
     elif what < 0.75:
         Mouse().key(*random.choice(100 * KEYS + ENDS).split())
     elif what < 0.77:
-        hold(program, random.choice(HELD))
+        xdotool("keydown", key := random.choice(HELD), "sleep", 1, "keyup", key)
     else:  # Any control of any window, so that each of them is left again.
         window = random.choice([program.main_window()] + 3 * windows)
         start, end = random.choices([e for e in buttons(window) if e.name != "Beenden"], k=2)
@@ -68,7 +56,7 @@ def look(program):
         Mouse().key("Escape")
         return not program.windows()
 
-    wait_for(is_alone, lambda: f"open: {[w.name for w in program.windows()]}")
+    wait_for(is_alone, "the main window alone")
     seen, model = program.rest()[0], Model(read_files())
     model.tiles, model.level = seen["tiles"], int(seen["panel"]["Level"])
     model.points, model.best = seen["panel"]["Punkte"], "Bester Spieler" in seen["buttons"]
@@ -80,27 +68,24 @@ def look(program):
     views = []
     for model.mode in MODES:
         model.result = {"lost": -100, "won": BONUS[model.mode]}.get(model.phase, 0)
-        views.append(model.view())
-    if seen not in [{kind: view[kind] for kind in seen} for view in views]:
+        views.append({kind: value for kind, value in model.view().items() if kind != "files"})
+    if seen not in views:
         raise Contradiction(seen, views[0])
     board = Board(seen["numbers"], model.gems())
-    for cell, tile in seen["tiles"].items():
-        if tile in (GEM, WRONG):
-            board.learn(cell, tile == GEM)
+    for cell in [cell for cell, tile in seen["tiles"].items() if tile in (GEM, WRONG)]:
+        board.learn(cell, seen["tiles"][cell] == GEM)
     for cell, is_gem in board.known.items():
         if is_gem and seen["tiles"][cell] == COVERED:
             Mouse().click(program.cell(cell))
 
 
-def begin(path):
-    # A saved game makes the high levels and the end of the game part of the run.
-    put("w0.sar", *(random.randint(*limits) for limits in ((0, 40), (-500, 30000), (1, 3))))
-    return Program(path)
-
-
 def run(path, seconds):
-    program, end, next_look = begin(path), time.monotonic() + seconds, 0
+    program, end, next_look = None, time.monotonic() + seconds, 0
     while time.monotonic() < end:
+        if program is None or program.process.poll() is not None:
+            # A saved game makes the high levels and the end of the game part of the run.
+            put("w0.sar", random.randint(0, 40), random.randint(-500, 30000), random.randint(1, 3))
+            program = Program(path)
         try:
             throw(program)
             if time.monotonic() > next_look:
@@ -113,15 +98,16 @@ def run(path, seconds):
                 raise
         if program.process.poll() is not None:
             program.end()
-            program = begin(path)
-    look(program)
+    if program.process.poll() is None:
+        look(program)
     wait_for(lambda: Mouse().key("alt+s", "e", "j") or program.process.poll() is not None, "end")
     program.end()
 
 
 if __name__ == "__main__":
-    SEED = int(sys.argv[3]) if len(sys.argv) > 3 else time.time_ns() // 10**6
+    DEFAULTS = [None, "60", str(time.time_ns() // 10**6)]
+    PATH, SECONDS, SEED = sys.argv[1:] + DEFAULTS[len(sys.argv) - 1:]
     print(f"seed {SEED}", flush=True)
-    random.seed(SEED)
-    AUDIO = Audio(sys.argv[1])
-    run(sys.argv[1], float(sys.argv[2]) if len(sys.argv) > 2 else 60)
+    random.seed(int(SEED))
+    AUDIO = Audio(PATH)
+    run(PATH, float(SECONDS))

@@ -37,12 +37,6 @@ def wait_for(condition, what, patience=20.0):
     raise Deviation(f"waited in vain: {what() if callable(what) else what}") from error
 
 
-def companion(path, name):
-    """A file that comes with the program: in its share folder, or beside it."""
-    folder = Path(path).parent / "../share/glanzgrube"
-    return (folder if folder.is_dir() else Path(path).parent) / name
-
-
 def read_files():
     return {file.name: file.read_bytes() for file in DATA.glob("*") if file.is_file()}
 
@@ -163,6 +157,6 @@ class Program:
         result, lines = self.process.wait(20), (STAGE / "stderr").read_text().splitlines()
         # The table of Qt's own file dialog complains of what it tells the bus.
         said = [line for line in lines if not line.startswith("QAccessibleTable::child")]
-        said += map(str, Path(os.environ["HOME"], ".config").rglob("Qt*"))
+        said += (STAGE / ".config").rglob("Qt*")
         if result or said:
-            raise Deviation("\n".join([f"ended with {result}", *said]))
+            raise Deviation(f"ended with {result}", *said)

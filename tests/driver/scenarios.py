@@ -17,24 +17,16 @@ from audio import Audio
 from driver import BEST, OPTIONS, Driver, put
 from gi.repository import GLib
 from model import BLIP, COVERED, GEM, MARKED, MODES, lines
-from program import (BUTTONS, CELL, STAGE, TITLE, Bus, Deviation, Mouse, Program, companion, has,
-                     output, read_files, wait_for, walk, xdotool)
+from program import (BUTTONS, CELL, STAGE, TITLE, Bus, Deviation, Mouse, Program, has, output,
+                     read_files, wait_for, walk, xdotool)
 
 
-def press_f1(driver, path):
-    """The opener of this stage writes the name of the document down."""
-    driver.hand.key("F1")
-    note, document = STAGE / "opened", companion(path, "saranten.pdf").resolve()
-    wait_for(lambda: note.exists() and str(document) in note.read_text(), document)
-
-
-def first_run(driver, path):
+def first_run(driver):
     """A fresh folder: the waiting window, a lost and a won level, saving, the options."""
     model = driver.model
     model.mode, model.hint = 1, f"Spielmodus : {MODES[1]}"
     model.files["sarant.ini"] = lines(1)
     driver.step(MODES[1])
-    press_f1(driver, path)
     driver.ask("Info", "Grafik", "OK")
     driver.step(lambda: driver.press("Information", "Beste Spieler..."), BLIP)
     driver.close("OK", BEST)
@@ -86,7 +78,7 @@ def second_run(driver):
 
 def tour(path):
     audio = Audio(path)
-    first_run(Driver(path, audio), path)
+    first_run(Driver(path, audio))
     put("knapp.sar", 38, 12700, 2)
     put("ende.sar", 40, 14500, 1)
     second_run(Driver(path, audio))
@@ -95,7 +87,9 @@ def tour(path):
     (STAGE / "usr/games").mkdir()
     installed = shutil.copy(path, STAGE / "usr/games")
     driver = Driver(installed, audio)
-    press_f1(driver, installed)
+    driver.hand.key("F1")  # The opener of this stage writes the name of the document down.
+    note, document = STAGE / "opened", str(STAGE / "usr/share/glanzgrube/saranten.pdf")
+    wait_for(lambda: note.exists() and document in note.read_text(), document)
     driver.step("Neues Spiel", driver.model.new_game())
     driver.quit()
     # A home that takes no folder, and none at all.
