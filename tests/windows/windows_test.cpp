@@ -200,9 +200,14 @@ TEST_F(MainWindow, SavesUnderTheNameThatStandsInTheField) {
     });
     Click("imgSpeichern");
   };
-  for (const char *name : {".sar", "\".sar", "Spiel \"Anna\".sar", ":Anna.sar ", "a b"}) {
+  QStringList names{".sar", "a b"};
+  if (QDir::separator() == u'/')  // Windows allows neither of these signs in a name.
+    names << "\".sar"
+          << "Spiel \"Anna\".sar"
+          << ":Anna.sar ";
+  for (const QString &name : names) {
     SaveAs(name);
-    EXPECT_TRUE(QFile::exists(DataFile(MitEndung(QString(name).trimmed())))) << name;
+    EXPECT_TRUE(QFile::exists(DataFile(MitEndung(name.trimmed())))) << name.toStdString();
     EXPECT_TRUE(SpielstandVorhanden());
   }
 }
