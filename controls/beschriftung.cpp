@@ -37,8 +37,7 @@ Beschriftung::Beschriftung(QWidget *eltern, const Texteintrag &eintrag)
 
 void Beschriftung::ZeigeText(const std::string &text, int freieZeilen) {
   const QString ganz = QString::fromStdString(text).remove('\r');
-  constexpr double kKleinste = 0.85;  // Part of the full size that is still easy to read.
-  const int kleinste = static_cast<int>(schrift_.pixelSize() * kKleinste);
+  const int kleinste = schrift_.pixelSize() * 85 / 100;  // Smaller is hard to read.
   QFont schrift = schrift_;
   setFont(schrift);
   if (!Passt(Umbrochen(ganz)))

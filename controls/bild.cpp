@@ -110,10 +110,20 @@ void Bild::SetzeGedrueckt(bool gedrueckt) {
 
 void Bild::paintEvent(QPaintEvent *) {
   QPainter maler(this);
-  const QPixmap bild = Katalogbild(Bildname(), devicePixelRatioF());
+  QPixmap bild = Katalogbild(Bildname(), devicePixelRatioF());
   ZeichneGenau(maler, {0, 0}, bild);
-  if (hasFocus())
-    ZeichneRing(maler, bild, 2.5);
+  if (!hasFocus())
+    return;
+  if (bild.isNull()) {  // The button is painted into the window's background.
+    bild = QPixmap(size() * devicePixelRatioF());
+    bild.setDevicePixelRatio(devicePixelRatioF());
+    bild.fill(Qt::transparent);
+    QPainter form(&bild);
+    form.setRenderHint(QPainter::Antialiasing);
+    form.setBrush(Qt::black);
+    form.drawRoundedRect(QRectF(rect()), 10, 10);
+  }
+  ZeichneRing(maler, bild, 2.5);
 }
 
 void Bild::mousePressEvent(QMouseEvent *ereignis) {
@@ -125,9 +135,8 @@ void Bild::mousePressEvent(QMouseEvent *ereignis) {
 void Bild::mouseDoubleClickEvent(QMouseEvent *ereignis) {
   ereignis->setAccepted(IstBedienbar());
   // The first press may have closed a window or hidden a button above this control.
-  const quint64 abstand = ereignis->timestamp() - gedruecktUm_;
-  if (druck_ &&
-      abstand <= static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval()))
+  const auto abstand = static_cast<int>(ereignis->timestamp() - gedruecktUm_);
+  if (druck_ && abstand <= QGuiApplication::styleHints()->mouseDoubleClickInterval())
     mousePressEvent(ereignis);
 }
 

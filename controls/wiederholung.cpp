@@ -32,8 +32,7 @@ const Taste &Beurteile(const QKeyEvent &druck) {
   const quint64 zeit = druck.timestamp();
   if (zeit == 0 || IstNeuer(zeit, taste.gedrueckt)) {
     // An X server reports a repeat as a release and a press. Qt sets the auto-repeat flag only if
-    // it reads both at once and their timestamps are equal; they differ when a millisecond ends
-    // between.
+    // it reads both at once and within the same millisecond.
     constexpr quint64 kSchnellsterFinger = 10;
     taste.wiederholt = druck.isAutoRepeat() || (zeit != 0 && taste.losgelassen != 0 &&
                                                 zeit - taste.losgelassen < kSchnellsterFinger);

@@ -113,9 +113,8 @@ void Meldefenster::Antworte(std::int16_t antwort) {
 }
 
 void Meldefenster::mousePressEvent(QMouseEvent *ereignis) {
-  griff_.reset();
-  if (ereignis->button() == Qt::LeftButton)
-    griff_ = ereignis->position().toPoint();
+  const bool links = ereignis->button() == Qt::LeftButton;
+  griff_ = links ? std::optional(ereignis->position().toPoint()) : std::nullopt;
 }
 
 void Meldefenster::mouseMoveEvent(QMouseEvent *ereignis) {

@@ -28,6 +28,9 @@ TEST_F(Messages, CloseByAnAnswerOnly) {
     Ask([name = button](Meldefenster &window) {
       for (const char *key : {"Return", "Enter", "F1", "Space", "Ctrl+J", "Alt+N", "Meta+Esc"})
         Press(window, key);
+      const QImage face = Find(window, "lblJa")->grab().toImage();
+      Find(window, "lblJa")->setFocus();
+      EXPECT_NE(Find(window, "lblJa")->grab().toImage(), face) << "no ring";
       QTest::mousePress(Find(window, "lblJa"), Qt::LeftButton);
       QTest::mouseRelease(Find(window, "lblJa"), Qt::LeftButton, {}, QPoint(-50, 0));
       EXPECT_TRUE(window.isVisible());
