@@ -17,22 +17,18 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster)
   setAttribute(Qt::WA_OpaquePaintEvent);
   create();
   OhneTaskleiste(windowHandle());
-  // Decoding the picture takes 11 ms; do it after the first paint of the main window.
+  // Decoding and painting the picture takes 20 ms; do it after the first paint of the main window.
   constexpr int kAufschub = 100;  // milliseconds
-  QTimer::singleShot(kAufschub, this, [this] {
-    Image1 = Streckbild("schreibtisch", size() * devicePixelRatioF());
-    update();
-  });
+  setUpdatesEnabled(false);
+  QTimer::singleShot(kAufschub, this, [this] { setUpdatesEnabled(true); });
 }
 
 void frmHintergrund::paintEvent(QPaintEvent *) {
-  constexpr QRgb kGrundfarbe = 0xff666f7b;  // The mean colour of the picture.
+  if (Image1.isNull())
+    Image1 = Streckbild("schreibtisch", size() * devicePixelRatioF());
   QPainter maler(this);
   maler.setRenderHint(QPainter::SmoothPixmapTransform);
-  if (Image1.isNull())
-    maler.fillRect(rect(), QColor(kGrundfarbe));
-  else
-    maler.drawPixmap(rect(), Image1);
+  maler.drawPixmap(rect(), Image1);
 }
 
 void frmHintergrund::mousePressEvent(QMouseEvent *) {
