@@ -255,12 +255,13 @@ bild(platte2 platte 47 47 HELL ${ROTPLATTE_HELL} MITTEL ${ROTPLATTE} DUNKEL ${RO
 bild(platte0 grube 47 47)
 bild(sarant  sarant 47 47)
 
-# The clue numbers: 0 is the empty place, and the two figures of 10 are narrowed to the width of the plate.
+# The clue numbers: 0 is the empty place. The two figures of 10 are narrowed to the width of the plate. They start
+# at half their width: librsvg shifts a text that is both anchored in its middle and narrowed.
 foreach(zahl RANGE 1 9)
   bild(zahl${zahl} zahl 29 31 FIGUREN "<text>${zahl}</text>")
 endforeach()
 bild(zahl0  bett 29 31)
-bild(zahl10 zahl 29 31 FIGUREN "<text transform='scale(.74,1)'>10</text>")
+bild(zahl10 zahl 29 31 FIGUREN "<text transform='scale(.74,1)' text-anchor='start' x='-12'>10</text>")
 
 # The phases of the blinking arrows.
 set(phase 0)
