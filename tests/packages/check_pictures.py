@@ -50,8 +50,9 @@ def pixels(file, part=(0, 0, 47, 47)):
 
 
 def beside(ground, colour, scale):
-    """What lies between one and two pixels beside the letters of this colour."""
-    letters = Image.fromarray((abs(ground.astype(int) - colour).max(axis=2) < 24).astype("uint8"))
+    """What lies between one and two pixels beside the letters of this colour, or nearly of it: a thin
+    stroke of a small letter has no full pixel, and is no ground."""
+    letters = Image.fromarray((abs(ground.astype(int) - colour).max(axis=2) < 48).astype("uint8"))
     near, far = (numpy.array(letters.filter(ImageFilter.MaxFilter(2 * n * scale + 1))) for n in (1, 2))
     return ground[far > near]
 
