@@ -155,8 +155,10 @@ class Program:
     def end(self):
         """The process must have ended well, said nothing, and written into its own folder only."""
         result, lines = self.process.wait(20), (STAGE / "stderr").read_text().splitlines()
-        # The table of Qt's own file dialog complains of what it tells the bus.
-        said = [line for line in lines if not line.startswith("QAccessibleTable::child")]
+        # The table of Qt's own file dialog complains of what it tells the bus, and Qt 6.8 of a question
+        # for an element whose window was closed while the question was under way.
+        said = [line for line in lines if not line.startswith(
+            ("QAccessibleTable::child", "qt.accessibility.atspi: Could not find accessible on path"))]
         said += (STAGE / ".config").rglob("Qt*")
         if result or said:
             raise Deviation(f"ended with {result}", *said)
