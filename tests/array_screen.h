@@ -1,12 +1,12 @@
-// A screen made of arrays, on which the rules are tested without a window.
+// A screen made of arrays, on which rules and files are tested without a window.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <deque>
 #include <map>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "core/ansicht.h"
 
@@ -15,41 +15,66 @@ class ArrayScreen : public Ansicht {
   std::array<Kachel, kZellen + 1> tiles{};
   std::array<int, kZahlfelder + 1> numbers{};
   std::array<bool, kZahlfelder + 1> numberVisible{};
-  /// By row and negative place, so as they stand; '_' is blank, red in brackets.
-  std::map<std::pair<Panelreihe, int>, std::string> digits;
-  std::string modeText;
-  Textfarbe modeColour = Textfarbe::Dunkelblau;
-  std::map<Bedienung, bool> visible;
-  bool modeRowVisible = true;
-  std::map<Pfeil, int> timers, arrows;
-  std::vector<int> sounds;
-  std::vector<Meldung> messages;     ///< Announcements and questions, in their order.
   std::deque<std::int16_t> answers;  ///< Answers to come; an empty queue cancels.
-  int checksOfBest = 0;
-  bool ended = false;
 
-  Kachel LiesKachel(int zelle) const override { return tiles.at(Index(zelle)); }
-  void SetzeKachel(int zelle, Kachel kachel) override { tiles.at(Index(zelle)) = kachel; }
-  void SetzeZahl(int platz, int zahl) override { numbers.at(Index(platz)) = zahl; }
-  bool IstZahlNull(int platz) const override { return numbers.at(Index(platz)) == 0; }
-  void ZeigeZahlfeld(int platz, bool s) override { numberVisible.at(Index(platz)) = s; }
+  int Count(Kachel tile) const {
+    return static_cast<int>(std::count(tiles.begin() + 1, tiles.end(), tile));
+  }
+  /// What the player sees and hears, the game and the messages: what differs from the last time.
+  std::string Tell() {
+    for (const auto &[kind, name] : {std::pair(Kachel::Markiert, "marks"),
+                                     {Kachel::Fehler, "errors"},
+                                     {Kachel::Sarant, "gems"}})
+      shown[name] = std::to_string(Count(kind));
+    shown["game"] = "level " + std::to_string(spiel.Level) + ", mode " +
+                    std::to_string(spiel.Spielmodus) + ", points " + std::to_string(spiel.Punkte) +
+                    " + " + std::to_string(spiel.Levelpunkte);
+    shown["panel"].clear();
+    for (const auto &[place, digit] : digits)
+      shown["panel"] += digit + (place.second == 0 ? " " : "");
+    std::string text;
+    for (const auto &[name, value] : shown)
+      if (value != told[name])
+        text += " | " + name + ": " + value;
+    shown["sounds"] = shown["message"] = "";
+    told = shown;
+    std::erase(text, '\r');
+    std::replace(text.begin(), text.end(), '\n', '/');
+    return text + "\n";
+  }
+
+  Kachel LiesKachel(int zelle) const override { return Element(tiles, zelle); }
+  void SetzeKachel(int zelle, Kachel kachel) override { Element(tiles, zelle) = kachel; }
+  void SetzeZahl(int platz, int zahl) override { Element(numbers, platz) = zahl; }
+  bool IstZahlNull(int platz) const override { return Element(numbers, platz) == 0; }
+  void ZeigeZahlfeld(int platz, bool s) override { Element(numberVisible, platz) = s; }
   void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override {
     const std::string sign(1, "0123456789_"[ziffer]);
     digits[{reihe, -stelle}] = farbe == Ziffernfarbe::Rot ? "[" + sign + "]" : sign;
   }
-  void SetzeModustext(const std::string &text) override { modeText = text; }
-  void SetzeModusfarbe(Textfarbe farbe) override { modeColour = farbe; }
+  void SetzeModustext(const std::string &text) override { shown["text"] = text; }
+  void SetzeModusfarbe(Textfarbe farbe) override {
+    shown["blue"] = farbe == Textfarbe::Blau ? "yes" : "no";
+  }
   bool IstSichtbar(Bedienung b) const override { return visible.contains(b) && visible.at(b); }
-  void Zeige(Bedienung bedienung, bool s) override { visible[bedienung] = s; }
-  void VerbergeModuswahl() override { modeRowVisible = false; }
-  void StartePfeil(Pfeil pfeil, int takt) override { timers[pfeil] = takt; }
-  void ZeigePfeil(Pfeil pfeil, int phase) override { arrows[pfeil] = phase; }
+  void Zeige(Bedienung bedienung, bool s) override {
+    static constexpr std::array kNames{"next", "repeat", "save", "load", "best", "arrow"};
+    visible[bedienung] = s;
+    shown[Element(kNames, bedienung)] = s ? "visible" : "hidden";
+  }
+  void VerbergeModuswahl() override { shown["modes"] = "hidden"; }
+  void StartePfeil(Pfeil pfeil, int takt) override {
+    shown[Name(pfeil) + " timer"] = std::to_string(takt);
+  }
+  void ZeigePfeil(Pfeil pfeil, int phase) override { shown[Name(pfeil)] = std::to_string(phase); }
   void StoppePfeil(Pfeil pfeil) override {
     StartePfeil(pfeil, 0);
     ZeigePfeil(pfeil, kKeinPfeil);
   }
-  void SpieleSound(int effekt) override { sounds.push_back(effekt); }
-  void Melde(const Meldung &meldung) override { messages.push_back(meldung); }
+  void SpieleSound(int effekt) override { shown["sounds"] += std::to_string(effekt); }
+  void Melde(const Meldung &meldung) override {
+    shown["message"] += meldung.lblTitel + " " + meldung.lblMeldung;
+  }
   bool Frage(const Meldung &meldung) override {
     Melde(meldung);
     spiel.Antwort = answers.empty() ? kAbgebrochen : answers.front();
@@ -57,10 +82,17 @@ class ArrayScreen : public Ansicht {
       answers.pop_front();
     return spiel.Antwort == kJa;
   }
-  void BestenlistePruefen() override { ++checksOfBest; }
-  void ZeigeBesteneintrag() override {}
-  void BeendeDasSpiel() override { ended = true; }
+  void BestenlistePruefen() override { shown["message"] += "[check of the best list]"; }
+  void ZeigeBesteneintrag() override { shown["message"] += "[entry]"; }
+  void BeendeDasSpiel() override { shown["message"] += "[end]"; }
 
  private:
-  static std::size_t Index(int n) { return static_cast<std::size_t>(n); }
+  static std::string Name(Pfeil pfeil) {
+    return pfeil == Pfeil::Start ? "start arrow" : "next arrow";
+  }
+
+  /// By row and negative place, so as they stand; '_' is blank, red in brackets.
+  std::map<std::pair<Panelreihe, int>, std::string> digits;
+  std::map<Bedienung, bool> visible;
+  std::map<std::string, std::string> shown, told;
 };

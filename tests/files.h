@@ -4,9 +4,8 @@
 #include <QFile>
 #include <ostream>
 
-/// Lets a failed comparison tell the text.
-inline void PrintTo(const QString &text, std::ostream *out) {
-  *out << text.toStdString();
+inline std::ostream &operator<<(std::ostream &out, const QString &text) {
+  return out << text.toStdString();
 }
 
 inline void WriteFile(const QString &path, const QByteArray &bytes) {

@@ -1,8 +1,7 @@
 // The real windows on a screen that nobody sees, with their files in a folder of the test's own.
 #pragma once
 
-#include <gtest/gtest.h>
-
+#include <QApplication>
 #include <QLabel>
 #include <QPointer>
 #include <QTemporaryDir>
@@ -15,13 +14,26 @@
 #include "core/spiel.h"
 #include "dialogs/frmMsg.h"
 #include "shell/frmSpielfeld.h"
+#include "shell/start.h"
+#include "tests/approved.h"
 #include "tests/files.h"
 
 /// The program in its waiting state, as at the start of the process.
 class WindowFixture : public testing::Test {
  protected:
-  WindowFixture();
-  ~WindowFixture() override;
+  WindowFixture() {
+    spiel = {};
+    QObject::connect(&clock, &QTimer::timeout, [this] { HandleWindow(); });
+    clock.start(1);
+    board = std::make_unique<frmSpielfeld>();
+    Main(*board, folder.path());
+  }
+  ~WindowFixture() override {
+    EXPECT_TRUE(planned.empty()) << "a window that was expected did not open";
+    board.reset();
+    for (QWidget *window : QApplication::topLevelWidgets())
+      delete window;
+  }
 
   /// Acts on the next modal window of a kind. What is announced happens in its order, each action
   /// as soon as its window is there; a window that nothing was announced for fails the test.
@@ -72,9 +84,25 @@ class WindowFixture : public testing::Test {
 
   QTemporaryDir folder;
   std::unique_ptr<frmSpielfeld> board;
+  Transcript told;
 
  private:
-  void HandleWindow();
+  void HandleWindow() {
+    QWidget *window = QApplication::activeModalWidget();
+    std::erase_if(handled, [](const auto &w) { return !w || !w->isVisible(); });
+    if (!window || std::find(handled.begin(), handled.end(), window) != handled.end())
+      return;
+    handled.emplace_back(window);
+    if (planned.empty()) {
+      ADD_FAILURE() << "unexpected window " << window->metaObject()->className();
+      window->close();
+      return;
+    }
+    const auto action = planned.front();
+    planned.pop_front();
+    // A timer does not tick while its own tick is handled, and the action may open the next window.
+    QTimer::singleShot(0, window, [action, window] { action(window); });
+  }
 
   std::deque<std::function<void(QWidget *)>> planned;
   std::vector<QPointer<QWidget>> handled;  ///< Open modal windows that were acted on.

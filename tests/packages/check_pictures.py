@@ -18,24 +18,7 @@ COLOURS = {name: tuple(bytes.fromhex(value)) for file, pattern in
            (("assets/bilder/palette.cmake", r'set\((\w+) +"#(\w{6})"\)'),
             ("controls/beschriftung.h", r"(k\w+) = 0xff(\w{6})"))
            for name, value in re.findall(pattern, (SOURCES / file).read_text())}
-# Pictures, the colour of a text or sign, its least contrast, and the part of the picture in which the
-# colour is that of a letter; negative edges count from the right or from below.
-TEXTS = [("tafel*.png", "TAFELSCHRIFT", 4.5, (12, 4, 100, 38)),
-         ("zahl[1-9]*.png", "ZAHLSCHRIFT", 4.5, (3, 2, 26, 29)),
-         *((name, "SCHRIFT", 4.5, (4, 4, right, -4)) for name, right in
-           (("knopf[!EN]*.png", -38), ("knopf[EN]*.png", -60), ("sound*.png", -38),
-            ("cmd*.png", -40), ("modus*.png", -30), ("level*.png", -30))),
-         ("meldungJa*.jpg", "SCHRIFT", 4.5, (38, 197, 150, 216)),
-         ("meldungOk*.jpg", "SCHRIFT", 4.5, (125, 198, 237, 217)),
-         ("gruen?[.@]*png", "GRUEN_AN", 3, (0, 0, 14, 28)),
-         ("rot?[.@]*png", "ROT_AN", 3, (0, 0, 14, 28)), ("platte2*.png", "GRAVUR", 3, (9, 9, 38, 38)),
-         # The windows write these on the picture.
-         ("spielfeld*.jpg", "kBlau", 4.5, (284, 664, 725, 721)),
-         ("beste*.jpg", "kBlau", 4.5, (74, 12, 331, 31)),
-         ("optionen*.jpg", "kBlau", 4.5, (202, 10, 347, 49)),
-         ("optionen*.jpg", "kDunkelgruen", 4.5, (108, 208, 397, 237)),
-         ("meldungJa*.jpg", "kHellgrau", 4.5, (62, 12, 323, 33)),
-         ("meldungOk*.jpg", "kHellgrau", 4.5, (64, 12, 341, 41))]
+TEXTS = [line.split() for line in Path(__file__).with_name("contrast.txt").open() if line[0] != "#"]
 EYES = ["sRGB1", *({"name": "sRGB1+CVD", "cvd_type": kind, "severity": 100}
                    for kind in ("deuteranomaly", "protanomaly", "tritanomaly"))]
 complaints = []
@@ -45,7 +28,7 @@ def pixels(file, part=(0, 0, 47, 47)):
     """A part of the picture on the stone, and its pixels to one of the window."""
     picture, scale = Image.open(file).convert("RGBA"), int((*re.findall(r"@(\d)x", file.name), 1)[0])
     stone = Image.new("RGBA", picture.size, COLOURS["STEIN"])
-    edges = [edge * scale + (picture.size * 2)[i] * (edge < 0) for i, edge in enumerate(part)]
+    edges = [int(edge) * scale + (picture.size * 2)[i] * (int(edge) < 0) for i, edge in enumerate(part)]
     return numpy.array(Image.alpha_composite(stone, picture).convert("RGB").crop(edges)), scale
 
 
@@ -57,7 +40,7 @@ def beside(ground, colour, scale):
     return ground[far > near]
 
 
-for pattern, name, least, part in TEXTS:
+for pattern, name, least, *part in TEXTS:
     for file in sorted(FOLDER.glob(pattern)) or [FOLDER / f"no {pattern}"]:
         ground, scale = pixels(file, part)
         if not name.startswith("k"):
@@ -66,7 +49,7 @@ for pattern, name, least, part in TEXTS:
         points = [COLOURS[name], *ground.reshape(-1, 3)]
         light = cspace_convert(points, "sRGB255", "XYZ1")[:, 1] + 0.05
         contrast = numpy.quantile(numpy.exp(abs(numpy.log(light[1:] / light[0]))), 0.05)
-        if contrast < least:
+        if contrast < float(least):
             complaints.append(f"{file.name}: {name} has {contrast:.2f}:1, not {least}:1")
 # What is covered is lighter than what is marked, than a gem, than an error; only the gem is colourful.
 tiles = [pixels(FOLDER / f"{name}.png")[0] / 255 for name in ("platte1", "platte2", "sarant", "platte0")]

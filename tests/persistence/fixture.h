@@ -1,11 +1,10 @@
 // A fresh game with a data folder of its own, as real as the player's.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QTemporaryDir>
 
 #include "persistence/modBeste.h"
+#include "tests/approved.h"
 #include "tests/array_screen.h"
 #include "tests/files.h"
 
@@ -14,18 +13,17 @@ class DataFixture : public testing::Test {
   QTemporaryDir folder;
   QString path = folder.filePath("spiel.sar");
   ArrayScreen screen;
+  Transcript told;
 
   DataFixture() {
     spiel = {};
     spiel.Datenordner = folder.path().toStdString();
     spiel.DatenordnerAktiv = true;
+    screen.Tell();
   }
-  /// Exactly this one message since the last call, word for word.
-  void ExpectMessage(const Meldung &expected, const QByteArray &trace = "") {
-    std::string told;
-    for (const Meldung &message : screen.messages)
-      told += message.lblMeldung + message.lblTitel;
-    EXPECT_EQ(told, expected.lblMeldung + expected.lblTitel) << trace.data();
-    screen.messages.clear();
+  /// Tells the first bytes of a file or a text, and what has changed on the screen.
+  void Tell(const QByteArray &bytes) {
+    told << bytes.left(60).toPercentEncoding(" ").data()
+         << QString::fromStdString(screen.Tell()).replace(folder.path(), "FOLDER").toStdString();
   }
 };
