@@ -120,10 +120,10 @@ def keyboard(path):
                      if has(e, pyatspi.STATE_FOCUSED)), None)
 
     def go(key, fits):
-        def press():
+        """Presses the key until the focus fits, each time only when the focus has moved."""
+        while not ((element := focus()) and fits(element)):
             driver.hand.key(key)
-            time.sleep(0.3)  # The focus must not move while the tree is walked.
-        wait_for(lambda: (e := focus()) is not None and fits(e) or press(), key)
+            wait_for(lambda: focus() not in (None, element), key)
 
     def press_space_on(name, *down):
         go("Tab", lambda e: e.getRole() in BUTTONS and not CELL.match(e.name))
