@@ -56,12 +56,10 @@ class ArrayScreen : public Ansicht {
   void SetzeModusfarbe(Textfarbe farbe) override {
     shown["blue"] = farbe == Textfarbe::Blau ? "yes" : "no";
   }
-  bool IstSichtbar(Bedienung b) const override { return visible.contains(b) && visible.at(b); }
-  void Zeige(Bedienung bedienung, bool s) override {
-    static constexpr std::array kNames{"next", "repeat", "save", "load", "best", "arrow"};
-    visible[bedienung] = s;
-    shown[Element(kNames, bedienung)] = s ? "visible" : "hidden";
+  bool IstSichtbar(Bedienung b) const override {
+    return shown.contains(Name(b)) && shown.at(Name(b)) == "visible";
   }
+  void Zeige(Bedienung b, bool s) override { shown[Name(b)] = s ? "visible" : "hidden"; }
   void VerbergeModuswahl() override { shown["modes"] = "hidden"; }
   void StartePfeil(Pfeil pfeil, int takt) override {
     shown[Name(pfeil) + " timer"] = std::to_string(takt);
@@ -87,12 +85,15 @@ class ArrayScreen : public Ansicht {
   void BeendeDasSpiel() override { shown["message"] += "[end]"; }
 
  private:
+  static std::string Name(Bedienung bedienung) {
+    return std::array{"next", "repeat", "save", "load", "best", "arrow"}.at(
+        static_cast<std::size_t>(bedienung));
+  }
   static std::string Name(Pfeil pfeil) {
     return pfeil == Pfeil::Start ? "start arrow" : "next arrow";
   }
 
   /// By row and negative place, so as they stand; '_' is blank, red in brackets.
   std::map<std::pair<Panelreihe, int>, std::string> digits;
-  std::map<Bedienung, bool> visible;
   std::map<std::string, std::string> shown, told;
 };

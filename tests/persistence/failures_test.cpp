@@ -102,14 +102,19 @@ TEST_F(Failure, TheDiskIsFullOrDoesNotConfirmOrRightsAreMissing) {
 }
 
 TEST_F(Failure, LinksAndModesStay) {
-  const QString link = data + "/a.sar", second = data + "/b.sar";
+  const QString link = data + "/a.sar", second = data + "/b.sar", deep = data + "/tief/c.sar";
   QFile::link(second, link);
   QFile::link(path, second);
   SpeichereSpielstand(screen, link);  // It leads to a file that does not exist yet.
   chmod(qPrintable(path), 0640);
+  QDir(data).mkpath("tief/ordner");
+  QFile::link("tief/ordner", data + "/kurz");
+  QFile::link("../c.sar", data + "/tief/ordner/c.sar");  // Starts where the link lies.
+  WriteFile(deep, "old");
   spiel.Level = 9;
-  SpeichereSpielstand(screen, link);
-  EXPECT_EQ(ReadFile(path).left(1), "9");
+  for (const QString &file : {link, data + "/kurz/c.sar"})
+    SpeichereSpielstand(screen, file);
+  EXPECT_EQ(ReadFile(path).left(1) + ReadFile(deep).left(1), "99");
   EXPECT_TRUE(QFileInfo(second).isSymLink());
   struct stat state = {};
   stat(qPrintable(path), &state);
@@ -125,12 +130,11 @@ TEST_F(Failure, LinksAndModesStay) {
 TEST_F(Failure, TheEnvironmentDecidesWhereTheDataLie) {
   WriteFile(path, "");
   const QByteArray home = folder.path().toUtf8(), relative = "kein/voller/pfad";
-  const QByteArray cases[][3] = {// HOME, XDG_DATA_HOME and the folder, which is made on the way.
-                                 {home, "", home + "/.local/share"},
-                                 {relative, home + "/xdg", home + "/xdg"},
-                                 {"", relative, ""},
-                                 {path.toUtf8() + "/home", "", ""}};
-  for (const auto &[userHome, xdg, root] : cases) {
+  // HOME, XDG_DATA_HOME and the folder, which is made on the way.
+  for (const auto &[userHome, xdg, root] : {std::tuple(home, QByteArray(), home + "/.local/share"),
+                                            {relative, home + "/xdg", home + "/xdg"},
+                                            {"", relative, ""},
+                                            {path.toUtf8() + "/home", "", ""}}) {
     qputenv("HOME", userHome);
     qputenv("XDG_DATA_HOME", xdg);
     EXPECT_EQ(Datenwurzel(), root) << userHome.data() << " " << xdg.data();

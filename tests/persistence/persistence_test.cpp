@@ -29,6 +29,7 @@ TEST_F(Files, OnlyAReadableGameIsAskedForAndOnlyAYesLoadsIt) {
   std::tie(spiel.Level, spiel.Punkte, spiel.Levelpunkte) = std::tuple(7, 2900, 450);
   bool found = true;
   SucheSpielstand(screen, found);
+  Tell("no game");
   SpeichereSpielstand(screen, path);
   SucheSpielstand(screen, found);
   EXPECT_FALSE(found);

@@ -118,6 +118,9 @@ TEST_F(Messages, AHeldKeyDoesNotCountInTheNextWindow) {
     window.close();
   });
   board->BestenlistePruefen();
+  QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, {}, " ", true);
+  QApplication::sendEvent(Find(*board, "imgNeuesSpiel"), &repeat);
+  EXPECT_EQ(spiel.Level, 0);
 }
 
 using MainWindow = WindowFixture;
@@ -195,21 +198,18 @@ TEST_F(MainWindow, LetsOnlyThoseActWithoutAMouseWhomAMouseReaches) {
 TEST_F(MainWindow, SavesUnderTheNameThatStandsInTheField) {
   board->Zeige(Bedienung::imgSpeichern, true);
   QDir(DataFile("")).removeRecursively();
-  const auto SaveAs = [&](const QString &name) {
-    Then<QFileDialog>([name](QFileDialog &dialog) {
-      QTest::keyClicks(Find<QLineEdit>(dialog, "fileNameEdit"), name);
-      Click(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save));
-    });
-    Click("imgSpeichern");
-  };
   QStringList names{".sar", "a b"};
   if (QDir::separator() == u'/')  // Windows allows neither of these signs in a name.
     names << "\".sar"
           << "Spiel \"Anna\".sar"
           << ":Anna.sar ";
   for (const QString &name : names) {
-    SaveAs(name);
-    EXPECT_TRUE(QFile::exists(DataFile(MitEndung(name.trimmed())))) << name.toStdString();
+    Then<QFileDialog>([name](QFileDialog &dialog) {
+      QTest::keyClicks(Find<QLineEdit>(dialog, "fileNameEdit"), name);
+      Click(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save));
+    });
+    Click("imgSpeichern");
+    EXPECT_TRUE(QFile::exists(DataFile(MitEndung(name.trimmed())))) << name;
     EXPECT_TRUE(SpielstandVorhanden());
   }
 }
