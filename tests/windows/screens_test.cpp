@@ -77,7 +77,8 @@ QString Describe(QWidget &element) {
   out.noquote() << element.objectName() << element.geometry() << access.role()
                 << access.text(QAccessible::Name).replace('\n', "\\n") << element.toolTip()
                 << (element.isHidden() ? "verborgen" : "")
-                << (access.state().checked ? "gewählt" : "");
+                << (access.state().checked ? "gewählt" : "")
+                << (access.state().focusable ? "bedienbar" : "");
   if (auto *picture = qobject_cast<Bild *>(&element)) {
     out << Size(picture->Bildname()) << access.actionInterface()->actionNames()
         << (picture->cursor().shape() == Qt::BitmapCursor ? "Hand" : "");
@@ -108,8 +109,9 @@ TEST_F(Screens, AllStandsAsTheInventoryTells) {
         lines << Describe(*element);
     }
     for (const QAction *entry : window.window()->findChildren<QAction *>())
-      lines << QString("»%1« %2 %3")
-                   .arg(entry->text(), entry->objectName(), entry->shortcut().toString())
+      lines << QString("»%1« %2 %3 %4")
+                   .arg(entry->text(), entry->objectName(), entry->shortcut().toString(),
+                        entry->isChecked() ? "gewählt" : "")
                    .trimmed();
   });
   for (int k = 0; k <= kLeereZiffer; ++k) {

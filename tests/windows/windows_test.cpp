@@ -21,9 +21,9 @@ using Messages = WindowFixture;
 
 TEST_F(Messages, CloseByAnAnswerOnly) {
   for (const auto &[button, answer] : {std::pair("lblJa", kJa),
+                                       {"", kAbgebrochen},
                                        {"lblNein", kNein},
-                                       {"Image1", kAbgebrochen},
-                                       {"", kAbgebrochen}}) {
+                                       {"Image1", kAbgebrochen}}) {
     Ask([name = button](Meldefenster &window) {
       for (const char *key : {"Return", "Enter", "F1", "Space", "Ctrl+J", "Alt+N", "Meta+Esc"})
         Press(window, key);
