@@ -71,9 +71,6 @@ class WindowFixture : public testing::Test {
   }
   static void Click(QWidget *target) { QTest::mouseClick(target, Qt::LeftButton); }
   void Click(const QString &name) { Click(Find(*board, name)); }
-  static QString Text(const QWidget &window, const QString &name) {
-    return Find<QLabel>(window, name)->text();
-  }
   /// Opens cells until the level of a game just begun is lost.
   void Lose() {
     for (int n = 1; n <= kZellen; ++n)

@@ -152,6 +152,7 @@ TEST_F(WindowFixture, OnADenserScreenPicturesAreSharpAndWindowsKeepTheirSize) {
   };
   EXPECT_EQ(Streckbild("schreibtisch", {1286, 1294}).width(), 643);  // Twice as large at most.
   EXPECT_EQ(Streckbild("schreibtisch", {1287, 1294}).width(), 1286);
+  EXPECT_EQ(Katalogbild("platte1", 1.5).devicePixelRatio(), 1.5);
   board->grab();
   const QSize size = board->size();
   board->setScreen(QGuiApplication::screens().at(1));
@@ -171,7 +172,8 @@ TEST_F(WindowFixture, AMessageWrapsALongPathAndShortensOneThatIsTooLong) {
   for (const auto &[length, pattern] : {std::pair(90, "x{90}"), {900, "x+…x+"}}) {
     spiel.Datenordner = "/heim/" + std::string(static_cast<std::size_t>(length), 'x') + "/kammern";
     const frmMsgJa window(FrageSucheSpielstand());
-    const QString text = Text(window, "lblMeldung").remove(QRegularExpression("\\s"));
+    const QString text =
+        Find<QLabel>(window, "lblMeldung")->text().remove(QRegularExpression("\\s"));
     EXPECT_TRUE(text.contains(QRegularExpression(
         QString("^ImOrdner/heim/%1/kammernbefindet.*Spielstand!$").arg(pattern))))
         << qPrintable(text);

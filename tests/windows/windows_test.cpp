@@ -13,6 +13,7 @@
 #include "dialogs/frmHintergrund.h"
 #include "dialogs/frmOptionen.h"
 #include "persistence/modDateiHandling.h"
+#include "shell/spielbrett.h"
 #include "tests/window_fixture.h"
 
 namespace {
@@ -165,6 +166,12 @@ TEST_F(MainWindow, ShowsAllAtOnceAndDecodesNoPictureWhilePlaying) {
     ExpectPainted();
   }
   EXPECT_EQ(GeladeneBilder(), loaded);
+  auto *level = board->findChildren<Zifferreihe *>().at(4);
+  level->setFocus();
+  EXPECT_EQ(level->grab().toImage().pixelColor(0, 9), Qt::blue) << "no ring";
+  for (int place = 51; place <= 55; ++place)
+    board->ZeigeZahlfeld(place, false);
+  EXPECT_EQ(board->findChild<Spielbrett *>()->Linientext(false, 1), "Zeile 1: leer");
 }
 
 TEST_F(MainWindow, LetsOnlyThoseActWithoutAMouseWhomAMouseReaches) {
@@ -220,6 +227,7 @@ TEST_F(MainWindow, EachTierInEachModeBeginsItsGame) {
     for (const char *answer : {"N", "J"}) {
       spiel.Punkte = 0;
       Then<frmOptionen>([&](frmOptionen &window) {
+        EXPECT_EQ(window.pos(), board->pos() - QPoint(7, 7));
         for (const QString &name :
              {QString("imgLevel%1").arg(choice % 6), QString("imgModus%1").arg(choice / 6 + 1)}) {
           Bild *face = Find(window, name);
