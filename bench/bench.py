@@ -14,9 +14,8 @@ import time
 from pathlib import Path
 
 from audio import Audio
-from driver import Driver, put
-from model import COVERED
-from program import wait_for
+from driver import Driver
+from program import put, wait_for
 from stopwatch import LIMIT, Stopwatch
 
 RUHE = 20.0  # seconds over which an idle minute is measured
@@ -95,7 +94,7 @@ def spielzeilen(pfad, uhr):
     spiel = Driver(pfad, Audio(pfad), uhr)
     spiel.load("bench.sar")
     pid = spiel.program.process.pid
-    zelle = spiel.program.cell(spiel.cell_with(COVERED))
+    zelle = spiel.program.cell(spiel.covered()[0])
     for _ in range(KLICKS):
         uhr.click(zelle, 3)
     rechts = statistics.median(uhr.times)

@@ -1,34 +1,21 @@
 """A sound server whose only device is a null sink, and what that device has played."""
 
-import array
 import atexit
 import subprocess
 import time
-from itertools import pairwise
 from pathlib import Path
-from statistics import mean
 
-from program import STAGE, Deviation, wait_for
+from program import STAGE, Deviation, output, wait_for
 
-RATE = 44100
-SLICE = RATE // 100 * 2  # bytes of a hundredth of a second
-CUT = 12  # hundredths of an effect's end that the sound system may swallow
-RECORDING = STAGE / "recording"
-
-
-def pitches(data):
-    """How often each hundredth of a second changes its sign, without those that are silent."""
-    for i in range(0, len(data) - SLICE + 1, SLICE):
-        values = array.array("h", data[i:i + SLICE])
-        if max(values) > 30 or min(values) < -30:
-            yield sum((a < 0) != (b < 0) for a, b in pairwise(values)) or 1
+FORMAT = "format=s16le", "rate=44100", "channels=1"  # That of the effects: nothing is converted.
+END = 44100 * 2 // 8  # bytes; the sound system may swallow so much of an effect's end
 
 
 class Audio:
     def __init__(self, path, device=True):
-        self.effects = {file.name: list(pitches(file.read_bytes()[44:]))
+        self.effects = {file.name: file.read_bytes()[44:].strip(b"\0")
                         for file in Path(path).parent.glob("*.WAV")}
-        self.heard, self.processes = 0, []
+        self.recording, self.news, self.processes = None, b"", []
         atexit.register(self.close)
         self.start("pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--log-target=null",
                    "--exit-idle-time=60", "-L", "module-native-protocol-unix")
@@ -38,33 +25,32 @@ class Audio:
             self.plug_in()
 
     def start(self, *command):
-        self.processes.append(subprocess.Popen(command, stdout=RECORDING.open("wb")))
+        with (STAGE / "recording").open("wb") as recording:
+            self.processes.append(subprocess.Popen(command, stdout=recording))
 
     def plug_in(self):
-        subprocess.run(["pactl", "load-module", "module-null-sink"], stdout=subprocess.DEVNULL)
-        self.start("parec", "-d", "@DEFAULT_MONITOR@", "--format=s16le", f"--rate={RATE}",
-                   "--channels=1", "--latency-msec=20")
-        wait_for(self.news, "recording")
+        output("pactl", "load-module", "module-null-sink", *FORMAT)
+        self.start("parec", "-d", "@DEFAULT_MONITOR@", "--latency-msec=20",
+                   *("--" + part for part in FORMAT))
+        self.recording = (STAGE / "recording").open("rb")
+        wait_for(lambda: self.recording.peek(1), "recording")
 
-    def news(self):
-        """What has been played since the last time."""
-        return RECORDING.read_bytes()[self.heard:]
+    def listen(self, least=1):
+        """Waits for so many bytes of sound and for silence, and returns the sound."""
+        def is_over():
+            self.news += self.recording.read() if self.recording else b""
+            return len(self.news.strip(b"\0")) >= least and not any(self.news[-END:])
 
-    def listen(self, least=0):
-        """Waits for so many hundredths of sound and for its end, and returns its pitches."""
-        wait_for(lambda: len(list(pitches(self.news()))) >= least, f"{least} hundredths of sound")
-        wait_for(lambda: not any(pitches(self.news()[-CUT * SLICE:])), "silence")
-        news = self.news()
-        self.heard += len(news) // SLICE * SLICE
-        return list(pitches(news))
+        wait_for(is_over, f"{least} bytes of sound, and silence")
+        sound, self.news = self.news.strip(b"\0"), b""
+        return sound
 
     def expect(self, effect):
-        """Nothing but this effect has been heard since the last time, or nothing at all."""
-        wanted = self.effects[effect] if effect else [0]
-        time.sleep(0 if effect else 0.4)
-        sound = self.listen(max(len(wanted) - CUT, len(wanted) > 1)) or [0]
-        if len(sound) > 1.5 * len(wanted) or abs(mean(sound) - mean(wanted)) > 3:
-            raise Deviation(f"{len(sound)} of pitch {mean(sound)} are not {effect}")
+        """Nothing but this effect has been heard since the last time."""
+        sound = self.listen(len(self.effects[effect]) - END)
+        if sound not in self.effects[effect]:
+            heard = [name for name, effect in self.effects.items() if sound in effect]
+            raise Deviation(f"{len(sound)} bytes, a part of {heard}, instead of {effect}")
 
     def close(self):
         for process in reversed(self.processes):

@@ -10,10 +10,8 @@ import sys
 import time
 
 from audio import Audio
-from driver import put
-from model import BONUS, COVERED, GEM, MODES, WRONG, Board, Contradiction, Model
-from program import (CELL, DATA, Bus, GLib, Mouse, Program, buttons, centre, output, read_files,
-                     wait_for, xdotool)
+from board import COVERED, MODES, judge
+from program import (CELL, DATA, Bus, GLib, Mouse, Program, buttons, centre, put, wait_for, xdotool)
 
 KEYS = ("ctrl+n", "ctrl+s", "ctrl+o", "F1", "Escape", "Return", "j", "n", "J", "N", "alt+a", "Tab",
         "space", "shift+space", "Left", "Down", "z", "3", "alt+Tab", "alt+i b", "alt+i z", "alt+i s",
@@ -47,8 +45,8 @@ def throw(program):
 
 
 def look(program):
-    """Closes every window but the main one, without a yes, and compares what it shows with what its
-    tiles and numbers mean. What they force is opened, so that levels are won now and then."""
+    """Closes every window but the main one, without a yes, and waits until what it shows agrees with
+    itself. What the numbers force is opened, so that levels are won now and then."""
     def is_alone():
         for e in [e for window in program.windows() for e in buttons(window)]:
             if e.name in ("Schließen", "Nein", "OK"):
@@ -56,41 +54,32 @@ def look(program):
         Mouse().key("Escape")
         return not program.windows()
 
+    def agree():
+        view = program.read(anew=True)
+        # A saved game was there at the start. Whether points are enough for the list, chance tells.
+        offers = {"Spiel laden"} | ({"Bester Spieler"} & view["buttons"])
+        return view["tiles"], judge(view, MODES, offers)
+
     wait_for(is_alone, "the main window alone")
-    seen, model = program.rest()[0], Model(read_files())
-    model.tiles, model.level = seen["tiles"], int(seen["panel"]["Level"])
-    model.points, model.best = seen["panel"]["Punkte"], "Bester Spieler" in seen["buttons"]
-    # A level that opens no cell leaves the text of the one before.
-    model.numbers, model.hint = seen["numbers"], None if model.count(GEM) else seen["texts"][0]
-    if model.level:
-        errors = model.count(WRONG)
-        model.phase = "lost" if errors == 2 else "playing" if model.rest() else "won"
-    views = []
-    for model.mode in MODES:
-        model.result = {"lost": -100, "won": BONUS[model.mode]}.get(model.phase, 0)
-        views.append({kind: value for kind, value in model.view().items() if kind != "files"})
-    if seen not in views:
-        raise Contradiction(seen, views[0])
-    board = Board(seen["numbers"], model.gems())
-    for cell in [cell for cell, tile in seen["tiles"].items() if tile in (GEM, WRONG)]:
-        board.learn(cell, seen["tiles"][cell] == GEM)
+    tiles, board = wait_for(agree, "agreement with the rules")
     for cell, is_gem in board.known.items():
-        if is_gem and seen["tiles"][cell] == COVERED:
+        if is_gem and tiles[cell] == COVERED:
             Mouse().click(program.cell(cell))
 
 
+def start(path):
+    """A saved game makes the high levels and the end of the game part of the run."""
+    put("w0.sar", random.randint(0, 40), random.randint(-500, 30000), random.randint(1, 3))
+    return Program(path)
+
+
 def run(path, seconds):
-    program, end, next_look = None, time.monotonic() + seconds, 0
+    program, end, next_look = start(path), time.monotonic() + seconds, 0
     while time.monotonic() < end:
-        if program is None or program.process.poll() is not None:
-            # A saved game makes the high levels and the end of the game part of the run.
-            put("w0.sar", random.randint(0, 40), random.randint(-500, 30000), random.randint(1, 3))
-            program = Program(path)
         try:
             throw(program)
             if time.monotonic() > next_look:
                 look(program)
-                print(output("grep", "RssAnon", f"/proc/{program.process.pid}/status"), end="")
                 next_look = time.monotonic() + 15
         except Exception as error:  # The program may have ended while it was looked at.
             time.sleep(1)
@@ -98,8 +87,8 @@ def run(path, seconds):
                 raise
         if program.process.poll() is not None:
             program.end()
-    if program.process.poll() is None:
-        look(program)
+            program = start(path)
+    look(program)
     wait_for(lambda: Mouse().key("alt+s", "e", "j") or program.process.poll() is not None, "end")
     program.end()
 

@@ -8,8 +8,8 @@ import time
 from pathlib import Path
 
 import pyatspi
+from board import Deviation
 from gi.repository import GLib
-from model import Contradiction
 
 STAGE = Path(os.environ["STAGE"])
 DATA = Path(os.environ["XDG_DATA_HOME"], "nachtkammern")
@@ -20,21 +20,26 @@ PANEL = re.compile(r"(Punkte|Levelpunkte|Fehlversuche|noch offen|Level): ([\w ]+
 BUTTONS = pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_RADIO_BUTTON, pyatspi.ROLE_CHECK_BOX
 
 
-class Deviation(Exception):
-    """What is seen or heard differs from what the rules say."""
-
-
-def wait_for(condition, what, patience=20.0):
+def wait_for(condition, what, patience=60.0):
     """Polls until the condition gives a true value, and returns that value."""
     end, error = time.monotonic() + patience, None
     while time.monotonic() < end:
         try:
             if value := condition():
                 return value
-        except (GLib.GError, NotImplementedError, Contradiction) as problem:
+        except (GLib.GError, NotImplementedError, Deviation) as problem:
             error = problem  # What is looked at may be changing.
         time.sleep(0.02)
-    raise Deviation(f"waited in vain: {what() if callable(what) else what}") from error
+    raise Deviation(f"waited in vain: {what}") from error
+
+
+def lines(*values):
+    return "".join(f"{value}\r\n" for value in values).encode("cp1252")
+
+
+def put(name, *values):
+    DATA.mkdir(exist_ok=True)
+    (DATA / name).write_bytes(lines(*values))
 
 
 def read_files():
@@ -50,12 +55,12 @@ def centre(element):
     return place.x + place.width // 2, place.y + place.height // 2
 
 
-def walk(element, board=False):
-    """The element and everything below it; the cells and numbers of the board only if asked for."""
+def walk(element):
+    """The element and everything below it but the cells and numbers of the board."""
     yield element
-    if board or element.name != "Spielfeld":
+    if element.name != "Spielfeld":
         for child in filter(None, element):
-            yield from walk(child, board)
+            yield from walk(child)
 
 
 def labels(window):
@@ -83,6 +88,10 @@ class Mouse:
     def key(self, *names):
         xdotool("key", "--delay", "40", *names)
 
+    def reaches(self, window):
+        """A window that is not active yet may still be moved, and gets no key."""
+        return has(window, pyatspi.STATE_ACTIVE)
+
 
 class Bus(Mouse):
     """Presses controls over the accessibility bus, on any screen."""
@@ -90,6 +99,9 @@ class Bus(Mouse):
     def click(self, element, button=1):
         actions = element.queryAction()  # "Press", or "ShowMenu", or both in this order.
         actions.doAction(0 if button == 1 else actions.nActions - 1)
+
+    def reaches(self, window):
+        return True
 
 
 class Program:
@@ -102,7 +114,7 @@ class Program:
         atexit.register(self.process.kill)
         self.app = wait_for(lambda: next((app for app in filter(None, pyatspi.Registry.getDesktop(0))
                                           if app.get_process_id() == self.process.pid), None),
-                            "program on the bus", 60)
+                            "program on the bus")
         # The names of the cells change with every step: nothing may be remembered here.
         self.app.set_cache_mask(pyatspi.Atspi.Cache.NONE)
         self.board = []
@@ -128,36 +140,30 @@ class Program:
         return self.board[10 * (cell[0] - 1) + cell[1] - 1]
 
     def read(self, anew=False):
-        """Everything that the main window shows, in the form of the model's view."""
+        """What the main window shows: tiles, numbers, each row of the panel, text, buttons."""
         area = self.main_window()[0]
         if anew or not self.board:  # Other numbers may be visible now.
             self.board = list(filter(None, area[0]))
-        view = {"tiles": {}, "numbers": {}, "panel": {}, "texts": [], "buttons": {
+        view = {"tiles": {}, "numbers": {}, "text": "", "buttons": {
             e.name + "*" * has(e, pyatspi.STATE_CHECKED) for e in buttons(area)}}
         for name in [element.name for element in self.board] + labels(area):
             if hit := CELL.match(name):
                 view["tiles"][int(hit[1]), int(hit[2])] = hit[3]
             elif hit := NUMBER.match(name):
-                line = view["numbers"].setdefault((hit[1], int(hit[2])), {})
-                line[int(hit[3])] = int(hit[4])
+                if int(hit[4]):  # Before the first game, each line has five zeros.
+                    view["numbers"].setdefault((hit[1], int(hit[2])), []).append(int(hit[4]))
             elif hit := PANEL.match(name):
-                view["panel"][hit[1]] = hit[2]
+                view[hit[1]] = int(hit[2]) if hit[2].isdigit() else hit[2]
             else:
-                view["texts"].append(" ".join(name.split()))
+                view["text"] += " ".join(name.split())
         return view
-
-    def rest(self):
-        """The main window and the names of the others, as soon as two looks see the same."""
-        def look():
-            return self.read(anew=True), [window.name for window in self.windows()]
-        return wait_for(lambda: (view := look()) == look() and view, "rest")
 
     def end(self):
         """The process must have ended well, said nothing, and written into its own folder only."""
-        result, lines = self.process.wait(20), (STAGE / "stderr").read_text().splitlines()
+        result, said = self.process.wait(60), (STAGE / "stderr").read_text().splitlines()
         # The table of Qt's own file dialog complains of what it tells the bus, and Qt 6.8 of a question
         # for an element whose window was closed while the question was under way.
-        said = [line for line in lines if not line.startswith(
+        said = [line for line in said if not line.startswith(
             ("QAccessibleTable::child", "qt.accessibility.atspi: Could not find accessible on path"))]
         said += (STAGE / ".config").rglob("Qt*")
         if result or said:

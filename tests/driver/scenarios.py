@@ -1,8 +1,8 @@
-"""Plays the game: a tour of all commands, without a mouse, beside a failing sound server, or under
-another window manager.
+"""Plays the game: a tour of all commands, without a mouse, beside a failing sound server, under
+another window manager, or through all levels.
 
 usage: [SCREEN=weston] [MANAGER=COMMAND] tests/driver/stage scenarios.py PROGRAM SCENARIO
-       The scenarios are tour, bus, keyboard, sound and desktop; weston has the bus alone.
+       The scenarios are tour, bus, sound, desktop and levels; weston has the bus alone.
 """
 
 import os
@@ -14,62 +14,77 @@ from pathlib import Path
 
 import pyatspi
 from audio import Audio
-from driver import BEST, OPTIONS, Driver, put
+from board import COVERED, MARKED, MODES
+from driver import BEST, BLIP, ERROR, OPTIONS, Driver
 from gi.repository import GLib
-from model import BLIP, COVERED, GEM, MARKED, MODES, lines
-from program import (BUTTONS, CELL, STAGE, TITLE, Bus, Deviation, Mouse, Program, has, output,
-                     read_files, wait_for, walk, xdotool)
+from program import (STAGE, TITLE, Bus, Deviation, Mouse, Program, has, lines, output, put,
+                     read_files, wait_for, xdotool)
 
 
 def first_run(driver):
     """A fresh folder: the waiting window, a lost and a won level, saving, the options."""
-    model = driver.model
-    model.mode, model.hint = 1, f"Spielmodus : {MODES[1]}"
-    model.files["sarant.ini"] = lines(1)
-    driver.step(MODES[1])
-    driver.ask("Info", "Grafik", "OK")
-    driver.step(lambda: driver.press("Information", "Beste Spieler..."), BLIP)
+    driver.mode, driver.files["sarant.ini"] = 1, lines(1)
+    driver.press(MODES[1])
+    driver.look(text=f"Spielmodus : {MODES[1]}")
+    driver.press("Info")
+    driver.confirm("Grafik", "OK")
+    driver.press("Information", "Beste Spieler...")
+    driver.look(BLIP)
     driver.close("OK", BEST)
-    driver.step("Neues Spiel", model.new_game())
-    for button in 3, 2:
-        driver.mark((1, 1), button)
-    driver.open(driver.cell_with(MARKED))  # A mark protects its cell.
+    driver.new_game()
+    driver.mark(cell := driver.covered()[0])
+    driver.click(cell)  # A mark protects its cell.
+    driver.mark(cell, COVERED, button=2)
     driver.win(left=60)
     driver.lose()
-    driver.open(driver.cell_with(GEM))  # Cells are dead now.
-    driver.step("Wiederholen", model.repeat())
+    driver.click(driver.covered()[0])  # Cells are dead now.
+    driver.repeat()
     driver.win()
-    driver.ask(lambda: driver.file("ctrl+s", "fehlt/spiel"), "Fehlernummer: 3", "Escape")
-    model.files[":spiel.sar"] = lines(1, model.points + model.result, 1)
-    driver.step(lambda: driver.file("ctrl+s", ":spiel"))
-    driver.step("Nächster Level", model.next_level())
-    driver.step("ctrl+s ctrl+o")  # Neither may be used now.
-    driver.ask("ctrl+n", "»Neues Spiel«", "n")
-    driver.ask("Einstellungen", f"mit {model.points}« Punkten", "Ja", BLIP)
-    driver.press("Level 6", MODES[3], "Soundeffekt", title=OPTIONS)
-    driver.sound, model.files["sarant.ini"] = False, lines(3)
-    driver.ask(lambda: driver.press("Übernehmen", title=OPTIONS), "Level:  6\nSpielmodus:  Experte",
-               "Ja", model.new_game(5, 1750, 3))
+    driver.file("ctrl+s", "fehlt/spiel")
+    driver.confirm("Fehlernummer: 3", "Escape")
+    points = driver.view["Punkte"] + 400
+    driver.files[":spiel.sar"] = lines(1, points, 1)
+    driver.file("ctrl+s", ":spiel")
+    driver.look()
+    driver.press("Nächster Level")
+    driver.begin(Level=2, Punkte=points)
+    driver.hand.key("ctrl+s", "ctrl+o", "ctrl+n")  # Only the last may be used now.
+    driver.confirm("»Neues Spiel«", "n")
+    driver.press("Einstellungen")
+    driver.confirm(f"mit {points}« Punkten", "Ja")
+    driver.look(BLIP)
+    driver.press("Level 6", MODES[3], "Soundeffekt", "Übernehmen", title=OPTIONS)
+    driver.sound, driver.mode, driver.files["sarant.ini"] = False, 3, lines(3)
+    driver.confirm("Level:  6\nSpielmodus:  Experte", "Ja")
+    driver.begin(Level=6, Punkte=1750)
     driver.hand.key("alt+s", "e")
-    driver.confirm("»Spiel beenden«", "Ja")
+    driver.confirm("»Spiel beenden«", "j")
     driver.program.end()
+    if driver.audio.listen(0):
+        raise Deviation("heard although the sound is off")
 
 
 def second_run(driver):
     """Loading, the best list in the middle of a game, and the end of the game behind the last level:
     the closing messages, and an entry in the best list."""
-    driver.ask(lambda: driver.file("ctrl+o", "sarant.ini"), "sarant.ini\nist keine", "OK")
-    driver.load("knapp.sar")
+    driver.file("ctrl+o", "sarant.ini")
+    driver.confirm("sarant.ini\nist keine", "OK")
+    driver.load("viel.sar")
     driver.win()
-    driver.step("Nächster Level", driver.model.next_level())
-    driver.model.best = False
-    driver.ask("Bester Spieler", "neue Bestmarke", "n")
+    driver.press("Nächster Level")
+    driver.offers.add("Bester Spieler")
+    driver.begin(Level=40, Punkte=driver.view["Punkte"] + 450)
+    driver.press("Bester Spieler")
+    driver.confirm("neue Bestmarke", "n")
+    driver.offers.remove("Bester Spieler")
+    driver.look()
     driver.file("ctrl+o", "ende.sar")
-    for words, answer in (("Level:   41", "Ja"), ("alle Level erfolgreich", "OK"),
-                          ("neue Bestmarke", "Ja")):
-        driver.confirm(words, answer)
+    driver.confirm("Level:   41", "Ja")
+    driver.confirm("alle Level erfolgreich", "OK")
+    driver.confirm("neue Bestmarke", "Ja")
     driver.type_into(BEST, "Ida Stein")
     driver.press("OK", title=BEST)
+    driver.sound = False  # The last message has none.
     driver.confirm("Vielen Dank!", "OK")
     driver.program.end()
     if b"Ida Stein\r\n" not in read_files()["sarant.txt"]:
@@ -79,7 +94,8 @@ def second_run(driver):
 def tour(path):
     audio = Audio(path)
     first_run(Driver(path, audio))
-    put("knapp.sar", 38, 12700, 2)
+    put("sarant.ini", 2)
+    put("viel.sar", 38, 20000, 2)
     put("ende.sar", 40, 14500, 1)
     second_run(Driver(path, audio))
     # As it is installed, with sounds and pages in a folder of their own.
@@ -90,102 +106,61 @@ def tour(path):
     driver.hand.key("F1")  # The opener of this stage writes the name of the document down.
     note, document = STAGE / "opened", str(STAGE / "usr/share/glanzgrube/saranten.pdf")
     wait_for(lambda: note.exists() and document in note.read_text(), document)
-    driver.step("Neues Spiel", driver.model.new_game())
+    driver.new_game()
     driver.quit()
     # A home that takes no folder, and none at all.
     for messages, data in (["Anlegen", "»Beste"], "/proc"), (["Festplatte"], "/proc/fehlt"):
         driver = Driver(path, audio, at_start=messages, XDG_DATA_HOME=data)
-        driver.do("Beenden")
+        driver.press("Beenden")
         driver.program.end()
 
 
 def bus(path):
     driver = Driver(path, Audio(path), Bus())
-    driver.step("Neues Spiel", driver.model.new_game())
+    driver.new_game()
     told = []
     pyatspi.Registry.registerEventListener(lambda event: told.append(str(event.any_data)),
                                            "object:property-change:accessible-name")
-    driver.mark(cell := driver.cell_with(COVERED))
+    driver.mark(cell := driver.covered()[0])
     wait_for(lambda: GLib.MainContext.default().iteration(False)
-             or any(name.endswith("markiert") for name in told), "the new name of a cell")
-    driver.mark(cell)
+             or any(name.endswith(MARKED) for name in told), "the new name of a cell")
+    driver.mark(cell, COVERED)
     driver.win()
     driver.quit()
-
-
-def keyboard(path):
-    """Tab changes between board, buttons and panel; arrows go on, the space bar presses."""
-    def focus():
-        return next((e for e in walk(driver.program.app, board=True)
-                     if has(e, pyatspi.STATE_FOCUSED)), None)
-
-    def go(key, fits):
-        """Presses the key until the focus fits, each time only when the focus has moved."""
-        while not ((element := focus()) and fits(element)):
-            driver.hand.key(key)
-            wait_for(lambda: focus() not in (None, element), key)
-
-    def press_space_on(name, *down):
-        go("Tab", lambda e: e.getRole() in BUTTONS and not CELL.match(e.name))
-        driver.hand.key(*["Up"] * 12)
-        go("Down", lambda e: e.name == name)
-        xdotool("keydown", "space", *down, "keyup", "space")
-
-    driver = Driver(path, Audio(path))
-    # The repeats of a held key must not press what the focus comes to.
-    driver.step(lambda: press_space_on("Neues Spiel", "sleep", 1), driver.model.new_game())
-    go("Tab", lambda e: CELL.match(e.name))
-    cell = driver.covered()[-1]
-    driver.hand.key(*["Down"] * (cell[0] - 1), *["Right"] * (cell[1] - 1), "Up", "Down")
-    for key, line in ("z", ("Zeile", cell[0])), ("s", ("Spalte", cell[1])):
-        numbers = ", ".join(map(str, reversed(driver.model.numbers.get(line, {}).values())))
-        driver.hand.key(key)
-        wait_for(lambda: focus().description == f"{line[0]} {line[1]}: {numbers or 'leer'}", key)
-    for _ in "mark", "no mark":
-        driver.model.mark(cell)
-        driver.step("shift+space")
-    driver.step(lambda: driver.hand.key("space"), driver.model.click(cell))
-    press_space_on("Beenden")
-    driver.confirm("»Spiel beenden«", "j")
-    driver.program.end()
 
 
 def sound(path):
     """The game must neither wait for a device that comes late and a server that stands still, dies
     and comes back, nor lose them."""
-    def click_on(clicks):
-        for cell in driver.covered()[:clicks]:
-            driver.click(cell)
-            driver.model.click(cell)
-            driver.compare()
-
-    def expect_again():
-        """The second click is heard, at the latest."""
-        for _ in range(2):
-            time.sleep(1)
-            driver.audio.listen()
-            click_on(1)
-        driver.audio.expect(BLIP)
+    def open_gems():
+        for cell in driver.covered()[:5]:
+            driver.open(cell, heard=False)
 
     driver = Driver(path, Audio(path, device=False), sound=False)
-    driver.do("Einstellungen")
+    driver.press("Einstellungen")
     driver.press("Soundeffekt", title=OPTIONS)
     driver.confirm("keine Soundkarte", "OK")
     driver.close("Schließen", OPTIONS)
     driver.audio.plug_in()
-    time.sleep(1)
-    driver.do("alt+o Return Return")  # Sound, an
+    driver.press("Optionen             ")
+    wait_for(lambda: has(driver.program.button("Sound"), pyatspi.STATE_ENABLED), "sound in the menu")
+    driver.press("Sound", "an")
     driver.sound = True
-    driver.step("Neues Spiel", driver.model.new_game())
+    driver.new_game()
+    # A new effect cuts off the one before it.
+    driver.open(driver.covered(is_gem=False)[0], heard=False)
+    driver.open(driver.covered()[0], heard=False)
+    if len(driver.audio.listen()) >= len(driver.audio.effects[ERROR]):
+        raise Deviation("an effect plays on beside the next")
     driver.audio.processes[0].send_signal(signal.SIGSTOP)
-    click_on(5)
+    open_gems()
     driver.audio.processes[0].send_signal(signal.SIGCONT)
-    expect_again()
+    driver.audio.listen()  # The last effect comes late.
+    driver.open(driver.covered()[0])
     driver.audio.close()
-    click_on(5)
-    time.sleep(10)
+    open_gems()
     driver.audio = Audio(path)
-    expect_again()
+    driver.open(driver.covered()[0])
     driver.quit()
 
 
@@ -203,12 +178,12 @@ def desktop(path):
     program.button("Neues Spiel")
     time.sleep(1)  # The cover paints, and the manager puts the frame around the window.
     mouse.click(program.button("Neues Spiel"))  # Reaches it only above the cover.
-    wait_for(lambda: program.read()["panel"]["Level"] == "1", "game above the cover", 5)
+    wait_for(lambda: program.read()["Level"] == 1, "game above the cover")
     if os.environ.get("MANAGER", "openbox") not in ("", "i3"):
         xdotool("search", "--name", TITLE, "windowminimize", "sleep", 1.5)
-        wait_for(is_minimised, "minimised game", 1)
+        wait_for(is_minimised, "minimised game")
         click_cover()
-        wait_for(lambda: not is_minimised(), "game that comes back", 5)
+        wait_for(lambda: not is_minimised(), "game that comes back")
     for *openers, answer, title in (("Information", "Beste Spieler...", "OK", BEST),
                                     ("Neues Spiel", "Nein", TITLE)):
         for name in openers:
@@ -216,7 +191,19 @@ def desktop(path):
         program.button(answer, title)
         click_cover()
         mouse.click(program.button(answer, title))
-        wait_for(lambda: not program.window(title), f"{title} above the game", 5)
+        wait_for(lambda: not program.window(title), f"{title} above the game")
+
+
+def levels(path):
+    """Wins each level once, the modes in turn."""
+    names = [f"{level}.sar" for level in range(40)]
+    for level, name in enumerate(names):
+        put(name, level, 500, level % 3 + 1)
+    driver = Driver(path, Audio(path))
+    for name in names:
+        driver.load(name)
+        driver.win()
+    driver.quit()
 
 
 if __name__ == "__main__":
