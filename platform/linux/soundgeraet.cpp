@@ -153,8 +153,11 @@ class Soundserver final : public Soundmelder {
     // The server's buffer holds the whole effect, so the sound has no gaps while the game is busy.
     const auto laenge = static_cast<std::uint32_t>(sound_.Bytes());
     const auto vorlauf = static_cast<std::uint32_t>(pa_usec_to_bytes(kVorlauf, &sound_.Format));
-    const pa_buffer_attr puffer{UINT32_MAX, laenge, 0, (laenge - std::min(laenge, vorlauf)) / 2,
-                                UINT32_MAX};
+    // It begins with the first value: a stream that does not wait plays silence until then, and
+    // drops as much of the effect.
+    const auto anfang = static_cast<std::uint32_t>(pa_frame_size(&sound_.Format));
+    const pa_buffer_attr puffer{UINT32_MAX, laenge, anfang,
+                                (laenge - std::min(laenge, vorlauf)) / 2, UINT32_MAX};
     pa_stream_connect_playback(strom_, nullptr, &puffer, PA_STREAM_NOFLAGS, nullptr, nullptr);
   }
 
