@@ -4,12 +4,11 @@ from unittest.mock import ANY
 
 import pyatspi
 from board import CELLS, COVERED, MARKED, MODES, WRONG, judge
-from program import (CELL, TITLE, Deviation, Mouse, Program, has, labels, lines, read_files,
+from program import (CELL, TITLE, Bus, Deviation, Mouse, Program, has, labels, lines, read_files,
                      wait_for, walk, xdotool)
 
 BLIP, ERROR, TADA = "BLIP.WAV", "FEHLER.WAV", "TADA.WAV"
 BEST, OPTIONS = "Beste Spieler ", "Form1"
-FILE_DIALOGS = {"ctrl+o": "Spieldatei öffnen", "ctrl+s": "Spieldatei speichern unter"}
 FILES = {"sarant.ini": lines(2),
          "sarant.txt": lines(*["Niemand"] * 5, *range(15000, 12999, -500))}
 
@@ -112,16 +111,18 @@ class Driver:
 
     def confirm(self, words, answer):
         """Reads the message that has these words, and answers it by a button or a key."""
-        def find():
+        def is_shown():
             window = self.program.window(TITLE)
-            return window if window and any(words in label for label in labels(window)) else None
-        wait_for(lambda: (window := find()) and self.hand.reaches(window), words)
+            # Before a window is active, it may still be moved, and gets no key.
+            return (window and any(words in label for label in labels(window))
+                    and (has(window, pyatspi.STATE_ACTIVE) or isinstance(self.hand, Bus)))
+        wait_for(is_shown, words)
         self.audio.listen(int(self.sound))
         if answer in ("Ja", "Nein", "OK"):
             self.press(answer, title=TITLE)
         else:
             self.hand.key(answer)
-        wait_for(lambda: self.program.process.poll() is not None or not find(), f"end of {words}")
+        wait_for(lambda: self.program.has_ended() or not is_shown(), f"end of {words}")
 
     def close(self, name, title):
         self.press(name, title=title)
@@ -135,14 +136,15 @@ class Driver:
     def file(self, command, name):
         """Types a name into the file dialog that a command opens."""
         self.hand.key(command)
-        self.type_into(title := FILE_DIALOGS[command], name)
+        self.type_into("Spieldatei", name)
         self.hand.key("Return")
-        wait_for(lambda: not self.program.window(title), f"end of {title}")
+        wait_for(lambda: not self.program.window("Spieldatei"), "end of the file dialog")
 
     def load(self, name):
         level, points, self.mode = map(int, self.files[name].split())
         self.file("ctrl+o", name)
-        self.confirm(f"Level:   {level + 1}\nSpielmodus:  {MODES[self.mode]}\nPunkte:  {points}", "Ja")
+        name = MODES[self.mode]
+        self.confirm(f"Level:   {level + 1}\nSpielmodus:  {name}\nPunkte:  {points}", "Ja")
         self.begin(Level=level + 1, Punkte=points)
 
     def quit(self):

@@ -45,7 +45,7 @@ def throw(program):
 
 
 def look(program):
-    """Closes every window but the main one, without a yes, and waits until what it shows agrees with
+    """Closes every window but the main one, without a yes, and waits until this one agrees with
     itself. What the numbers force is opened, so that levels are won now and then."""
     def is_alone():
         for e in [e for window in program.windows() for e in buttons(window)]:
@@ -83,13 +83,13 @@ def run(path, seconds):
                 next_look = time.monotonic() + 15
         except Exception as error:  # The program may have ended while it was looked at.
             time.sleep(1)
-            if program.process.poll() is None and not isinstance(error, GONE):
+            if not program.has_ended() and not isinstance(error, GONE):
                 raise
-        if program.process.poll() is not None:
+        if program.has_ended():
             program.end()
             program = start(path)
     look(program)
-    wait_for(lambda: Mouse().key("alt+s", "e", "j") or program.process.poll() is not None, "end")
+    wait_for(lambda: Mouse().key("alt+s", "e", "j") or program.has_ended(), "end")
     program.end()
 
 

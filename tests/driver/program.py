@@ -15,7 +15,7 @@ STAGE = Path(os.environ["STAGE"])
 DATA = Path(os.environ["XDG_DATA_HOME"], "nachtkammern")
 TITLE = "Glanzgrube  Vers.: "
 CELL = re.compile(r"Zeile (\d+), Spalte (\d+): (\w+)$")
-NUMBER = re.compile(r"(Zeile|Spalte) (\d+), Zahl (\d+): (\d+)$")
+NUMBER = re.compile(r"(Zeile|Spalte) (\d+), Zahl \d+: (\d+)$")
 PANEL = re.compile(r"(Punkte|Levelpunkte|Fehlversuche|noch offen|Level): ([\w ]+)$")
 BUTTONS = pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_RADIO_BUTTON, pyatspi.ROLE_CHECK_BOX
 
@@ -88,10 +88,6 @@ class Mouse:
     def key(self, *names):
         xdotool("key", "--delay", "40", *names)
 
-    def reaches(self, window):
-        """A window that is not active yet may still be moved, and gets no key."""
-        return has(window, pyatspi.STATE_ACTIVE)
-
 
 class Bus(Mouse):
     """Presses controls over the accessibility bus, on any screen."""
@@ -99,9 +95,6 @@ class Bus(Mouse):
     def click(self, element, button=1):
         actions = element.queryAction()  # "Press", or "ShowMenu", or both in this order.
         actions.doAction(0 if button == 1 else actions.nActions - 1)
-
-    def reaches(self, window):
-        return True
 
 
 class Program:
@@ -150,13 +143,16 @@ class Program:
             if hit := CELL.match(name):
                 view["tiles"][int(hit[1]), int(hit[2])] = hit[3]
             elif hit := NUMBER.match(name):
-                if int(hit[4]):  # Before the first game, each line has five zeros.
-                    view["numbers"].setdefault((hit[1], int(hit[2])), []).append(int(hit[4]))
+                if int(hit[3]):  # Before the first game, each line has five zeros.
+                    view["numbers"].setdefault((hit[1], int(hit[2])), []).append(int(hit[3]))
             elif hit := PANEL.match(name):
                 view[hit[1]] = int(hit[2]) if hit[2].isdigit() else hit[2]
             else:
                 view["text"] += " ".join(name.split())
         return view
+
+    def has_ended(self):
+        return self.process.poll() is not None
 
     def end(self):
         """The process must have ended well, said nothing, and written into its own folder only."""

@@ -65,8 +65,8 @@ def first_run(driver):
 
 
 def second_run(driver):
-    """Loading, the best list in the middle of a game, and the end of the game behind the last level:
-    the closing messages, and an entry in the best list."""
+    """Loading, the best list in the middle of a game, and the end behind the last level: the
+    closing messages, and an entry in the best list."""
     driver.file("ctrl+o", "sarant.ini")
     driver.confirm("sarant.ini\nist keine", "OK")
     driver.load("viel.sar")
@@ -143,7 +143,7 @@ def sound(path):
     driver.close("Schließen", OPTIONS)
     driver.audio.plug_in()
     driver.press("Optionen             ")
-    wait_for(lambda: has(driver.program.button("Sound"), pyatspi.STATE_ENABLED), "sound in the menu")
+    wait_for(lambda: has(driver.program.button("Sound"), pyatspi.STATE_ENABLED), "sound in menu")
     driver.press("Sound", "an")
     driver.sound = True
     driver.new_game()
