@@ -29,7 +29,9 @@ class Board:
         if sum(map(sum, numbers.values())) != 2 * gems:
             raise Deviation(f"the numbers do not add up to {gems} gems: {numbers}")
         self.known = {}
-        self.fillings = {line: FILLINGS[tuple(numbers.get(line, ()))] for line in LINES}
+        # Before the first game, each line shows five zeros.
+        self.fillings = {line: FILLINGS[tuple(numbers.get(line, ())) * (gems > 0)]
+                         for line in LINES}
         for line in LINES:
             self.conclude(line)
 

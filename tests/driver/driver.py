@@ -3,7 +3,7 @@
 from unittest.mock import ANY
 
 import pyatspi
-from board import CELLS, COVERED, MARKED, MODES, WRONG, judge
+from board import CELLS, COVERED, LINES, MARKED, MODES, WRONG, judge
 from program import (CELL, TITLE, Bus, Deviation, Mouse, Program, has, labels, lines, read_files,
                      wait_for, walk, xdotool)
 
@@ -23,7 +23,8 @@ class Driver:
         self.files = FILES | read_files()
         self.offers = {"Spiel laden"} if any(".sar" in name for name in self.files) else set()
         self.mode = int(self.files["sarant.ini"])
-        self.view = {"tiles": dict.fromkeys(CELLS, COVERED), "numbers": {}, "Level": 0, "Punkte": 0}
+        self.view = {"tiles": dict.fromkeys(CELLS, COVERED), "Level": 0, "Punkte": 0,
+                     "numbers": {line: [0] * 5 for line in LINES}}
         self.board, self.program = None, Program(path, **environment)
         for words in at_start:
             self.confirm(words, "OK")
@@ -117,7 +118,8 @@ class Driver:
             return (window and any(words in label for label in labels(window))
                     and (has(window, pyatspi.STATE_ACTIVE) or isinstance(self.hand, Bus)))
         wait_for(is_shown, words)
-        self.audio.listen(int(self.sound))
+        if self.sound:
+            self.audio.listen()
         if answer in ("Ja", "Nein", "OK"):
             self.press(answer, title=TITLE)
         else:

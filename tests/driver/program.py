@@ -143,8 +143,7 @@ class Program:
             if hit := CELL.match(name):
                 view["tiles"][int(hit[1]), int(hit[2])] = hit[3]
             elif hit := NUMBER.match(name):
-                if int(hit[3]):  # Before the first game, each line has five zeros.
-                    view["numbers"].setdefault((hit[1], int(hit[2])), []).append(int(hit[3]))
+                view["numbers"].setdefault((hit[1], int(hit[2])), []).append(int(hit[3]))
             elif hit := PANEL.match(name):
                 view[hit[1]] = int(hit[2]) if hit[2].isdigit() else hit[2]
             else:
