@@ -131,8 +131,9 @@ class Driver:
         wait_for(lambda: not self.program.window(title), f"end of {title}")
 
     def type_into(self, title, text):
-        wait_for(lambda: any(e.getRole() == pyatspi.ROLE_TEXT and has(e, pyatspi.STATE_FOCUSED)
-                             for e in walk(self.program.window(title))), "text field")
+        wait_for(lambda: (window := self.program.window(title)) and any(
+            e.getRole() == pyatspi.ROLE_TEXT and has(e, pyatspi.STATE_FOCUSED)
+            for e in walk(window)), "text field")
         xdotool("type", "--delay", "40", text)
 
     def file(self, command, name):
