@@ -88,7 +88,6 @@ def run(path, seconds):
         if program.has_ended():
             program.end()
             program = start(path)
-    look(program)
     wait_for(lambda: Mouse().key("alt+s", "e", "j") or program.has_ended(), "end")
     program.end()
 
