@@ -88,6 +88,7 @@ def run(path, seconds):
         if program.has_ended():
             program.end()
             program = start(path)
+    look(program)  # Without a window above it, the game can be ended.
     wait_for(lambda: Mouse().key("alt+s", "e", "j") or program.has_ended(), "end")
     program.end()
 
