@@ -1,6 +1,6 @@
 """Measures the program from outside and writes the table of results.
 
-usage: tests/driver/stage ../../bench/bench.py BUILD_DIRECTORY RESULT.md
+usage: scripts/stage bench/bench.py BUILD_DIRECTORY RESULT.md
 """
 
 import json
@@ -90,11 +90,11 @@ def startzeilen(schirm, spiel, leer):
 
 def spielzeilen(pfad, uhr):
     """The rows about clicks and idle minutes in a real level."""
-    put("bench.sar", 39, 500, 1)
+    put("bench.sar", 0, 9000, 1)
     spiel = Driver(pfad, Audio(pfad), uhr)
     spiel.load("bench.sar")
     pid = spiel.program.process.pid
-    zelle = spiel.program.cell(spiel.covered()[0])
+    zelle = spiel.program.cells()[spiel.covered()[0]]
     for _ in range(KLICKS):
         uhr.click(zelle, 3)
     rechts = statistics.median(uhr.times)

@@ -10,9 +10,6 @@
 /// the test program; after a look at the difference it may become the approved one.
 class Transcript : public std::ostringstream {
  public:
-  Transcript() = default;
-  Transcript(const Transcript &) = delete;
-  Transcript &operator=(const Transcript &) = delete;
   ~Transcript() override {
     if (str().empty())
       return;

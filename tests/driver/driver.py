@@ -1,108 +1,85 @@
-"""Plays the program and compares every step with the rules: screen, files and sound."""
-
-from unittest.mock import ANY
+"""Plays the program, and waits for what must follow from each step on the screen, in the files and
+from the speakers."""
 
 import pyatspi
-from board import CELLS, COVERED, LINES, MARKED, MODES, WRONG, judge
-from program import (CELL, TITLE, Bus, Deviation, Mouse, Program, has, labels, lines, read_files,
-                     wait_for, walk, xdotool)
+from program import (COVERED, GEM, MARKED, TITLE, WRONG, Bus, Deviation, Mouse, Program, has, labels,
+                     lines, read_files, wait_for, walk, xdotool)
 
 BLIP, ERROR, TADA = "BLIP.WAV", "FEHLER.WAV", "TADA.WAV"
 BEST, OPTIONS = "Beste Spieler ", "Form1"
+MODES = {1: "Einfach", 2: "Normal", 3: "Experte"}
 FILES = {"sarant.ini": lines(2),
          "sarant.txt": lines(*["Niemand"] * 5, *range(15000, 12999, -500))}
 
 
 class Driver:
-    """Plays one run of the program. `view` is what was seen last, `mode` the mode, `offers` the
-    buttons that do not follow from the tiles, `files` what the data folder must hold, `sound`
-    whether the game may be heard."""
+    """Plays one run of the program. `view` is what was seen last, `files` what the data folder must
+    hold, `sound` whether the game may be heard."""
 
     def __init__(self, path, audio, hand=None, at_start=(), sound=True, **environment):
         self.audio, self.hand, self.sound = audio, hand or Mouse(), sound
-        self.files = FILES | read_files()
-        self.offers = {"Spiel laden"} if any(".sar" in name for name in self.files) else set()
-        self.mode = int(self.files["sarant.ini"])
-        self.view = {"tiles": dict.fromkeys(CELLS, COVERED), "Level": 0, "Punkte": 0,
-                     "numbers": {line: [0] * 5 for line in LINES}}
-        self.board, self.program = None, Program(path, **environment)
+        self.files, self.view = FILES | read_files(), None
+        self.program = Program(path, **environment)
         for words in at_start:
             self.confirm(words, "OK")
         if not at_start:
-            self.look()
+            self.look(Level=0, Punkte=0)
 
-    # What must follow from an action.
-
-    def look(self, sound=None, **changes):
-        """Waits until the screen agrees with itself, and shows what it did but for the changes.
-        Then the sound must be heard; a sound that nobody waits for disturbs the next one."""
-        kept = {name: self.view[name] for name in ("tiles", "numbers", "Level", "Punkte")}
-        wanted = kept | {"files": self.files} | changes
-        is_new = wanted["numbers"] is ANY
-
+    def look(self, sound=None, **wanted):
+        """Waits until the screen shows what is wanted, and the files are right. Then the sound must be
+        heard; a sound that nobody waits for disturbs the next one."""
         def compare():
-            view = self.program.read(is_new) | {"files": read_files()}
-            board = judge(view, [self.mode], self.offers)
-            if any(view[name] != value for name, value in wanted.items()):
-                raise Deviation(f"{view} instead of {wanted}")
-            return view, board
+            self.view = self.program.read() | {"files": read_files()}
+            wrong = {name: (self.view[name], value)
+                     for name, value in (wanted | {"files": self.files}).items()
+                     if self.view[name] != value}
+            if wrong:
+                raise Deviation(wrong)
+            return True
 
-        self.view, board = wait_for(compare, "agreement with the rules")
-        self.board = board if is_new else self.board or board
-        self.board.learn_opened(self.view["tiles"])
+        wait_for(compare, f"a screen with {wanted}")
         if sound and self.sound:
             self.audio.expect(sound)
 
-    def begin(self, **changes):
-        """A look at the start of a level, which has another board if `Level` is named."""
-        numbers = ANY if "Level" in changes else self.view["numbers"]
-        # The expert begins the first five levels without an opened cell.
-        sound = BLIP if self.mode < 3 or changes.get("Level", self.view["Level"]) > 5 else None
-        self.look(sound, tiles=ANY, numbers=numbers, Fehlversuche=0, **changes)
-        for cell in [cell for cell, tile in self.view["tiles"].items() if tile == MARKED]:
-            self.board.learn(cell, False)
-
     # The board.
 
+    def covered(self):
+        return [n for n, tile in enumerate(self.program.tiles()) if tile == COVERED]
+
     def click(self, cell, button=1):
-        self.hand.click(self.program.cell(cell), button)
+        self.hand.click(self.program.cells()[cell], button)
 
-    def open(self, cell, heard=True):
+    def open(self, cell, heard=False):
+        """Opens a covered cell and returns what it is."""
         self.click(cell)
-        element = self.program.cell(cell)
-        wait_for(lambda: not element.name.endswith(COVERED), f"{cell} opens")
-        tile = CELL.match(element.name)[3]
-        sound = ERROR if tile == WRONG else TADA if self.view["noch offen"] == 1 else BLIP
-        self.look(heard and sound, tiles=self.view["tiles"] | {cell: tile})
+        wait_for(lambda: self.program.tiles()[cell] != COVERED, f"cell {cell} opens")
+        tile = self.program.tiles()[cell]
+        if heard:
+            self.audio.expect(BLIP if tile == GEM else ERROR)
+        return tile
 
-    def mark(self, cell, tile=MARKED, button=3):
-        self.click(cell, button)
-        self.look(tiles=self.view["tiles"] | {cell: tile})
+    def learn(self):
+        """Opens every cell once, and repeats the level as often as that loses it. Returns the gems."""
+        gems, free = set(), set()
+        while True:
+            tiles = self.program.tiles()
+            gems.update(n for n, tile in enumerate(tiles) if tile == GEM)
+            free.update(n for n, tile in enumerate(tiles) if tile in (MARKED, WRONG))
+            if tiles.count(WRONG) == 2:
+                self.press("Wiederholen")
+                self.look(Fehlversuche=0, Punkte=self.view["Punkte"] - 100)
+            elif unknown := set(range(100)) - gems - free:
+                self.open(unknown.pop())
+            else:
+                return gems
 
-    def covered(self, is_gem=True):
-        """The covered cells that are known to hold a gem, or to hold none."""
-        return [cell for cell, tile in self.view["tiles"].items()
-                if tile == COVERED and self.board.known.get(cell) == is_gem]
-
-    def win(self, left=0):
-        """Plays to the win, or until so many gems are left. What is not known is tried first, so
-        that losing costs few clicks."""
-        while self.view["noch offen"] > left:
-            if self.view["Fehlversuche"] == 2:
-                self.repeat()
-            self.open(self.board.best_guess() or self.covered()[0])
-
-    def lose(self):
-        while self.view["Fehlversuche"] < 2:
-            self.open(self.covered(is_gem=False)[0])
-
-    def new_game(self):
-        self.press("Neues Spiel")
-        self.begin(Level=1, Punkte=500)
-
-    def repeat(self):
-        self.press("Wiederholen")
-        self.begin(Punkte=self.view["Punkte"] - 100)
+    def win(self):
+        *cells, last = self.learn().intersection(self.covered())
+        for cell in cells:
+            self.open(cell)
+        self.audio.listen(0)
+        self.open(last)
+        self.look(TADA, text="Klicken Sie auf »Nächster Level«")
 
     # Buttons, messages and windows.
 
@@ -144,11 +121,10 @@ class Driver:
         wait_for(lambda: not self.program.window("Spieldatei"), "end of the file dialog")
 
     def load(self, name):
-        level, points, self.mode = map(int, self.files[name].split())
+        level, points, mode = map(int, self.files[name].split())
         self.file("ctrl+o", name)
-        name = MODES[self.mode]
-        self.confirm(f"Level:   {level + 1}\nSpielmodus:  {name}\nPunkte:  {points}", "Ja")
-        self.begin(Level=level + 1, Punkte=points)
+        self.confirm(f"Level:   {level + 1}\nSpielmodus:  {MODES[mode]}\nPunkte:  {points}", "Ja")
+        self.look(BLIP, Level=level + 1, Punkte=points)
 
     def quit(self):
         """Ends the program in the middle of a game."""

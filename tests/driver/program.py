@@ -8,16 +8,18 @@ import time
 from pathlib import Path
 
 import pyatspi
-from board import Deviation
 from gi.repository import GLib
 
 STAGE = Path(os.environ["STAGE"])
 DATA = Path(os.environ["XDG_DATA_HOME"], "nachtkammern")
 TITLE = "Glanzgrube  Vers.: "
-CELL = re.compile(r"Zeile (\d+), Spalte (\d+): (\w+)$")
-NUMBER = re.compile(r"(Zeile|Spalte) (\d+), Zahl \d+: (\d+)$")
 PANEL = re.compile(r"(Punkte|Levelpunkte|Fehlversuche|noch offen|Level): ([\w ]+)$")
 BUTTONS = pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_RADIO_BUTTON, pyatspi.ROLE_CHECK_BOX
+COVERED, MARKED, WRONG, GEM = "verdeckt", "markiert", "Fehler", "Sarant"
+
+
+class Deviation(Exception):
+    """What is seen or heard differs from what the game must show and play."""
 
 
 def wait_for(condition, what, patience=60.0):
@@ -55,12 +57,12 @@ def centre(element):
     return place.x + place.width // 2, place.y + place.height // 2
 
 
-def walk(element):
-    """The element and everything below it but the cells and numbers of the board."""
+def walk(element, board=False):
+    """The element and everything below it; the cells and numbers of the board only if asked for."""
     yield element
-    if element.name != "Spielfeld":
+    if board or element.name != "Spielfeld":
         for child in filter(None, element):
-            yield from walk(child)
+            yield from walk(child, board)
 
 
 def labels(window):
@@ -129,22 +131,20 @@ class Program:
             return window and next((e for e in walk(window) if e.name == name and has(e)), None)
         return wait_for(find, f"button {name}")
 
-    def cell(self, cell):
-        return self.board[10 * (cell[0] - 1) + cell[1] - 1]
+    def cells(self):
+        """The cells, row by row. They are the first children of the board and are never replaced."""
+        if not self.board:
+            self.board = list(self.main_window()[0][0])[:100]
+        return self.board
 
-    def read(self, anew=False):
-        """What the main window shows: tiles, numbers, each row of the panel, text, buttons."""
-        area = self.main_window()[0]
-        if anew or not self.board:  # Other numbers may be visible now.
-            self.board = list(filter(None, area[0]))
-        view = {"tiles": {}, "numbers": {}, "text": "", "buttons": {
-            e.name + "*" * has(e, pyatspi.STATE_CHECKED) for e in buttons(area)}}
-        for name in [element.name for element in self.board] + labels(area):
-            if hit := CELL.match(name):
-                view["tiles"][int(hit[1]), int(hit[2])] = hit[3]
-            elif hit := NUMBER.match(name):
-                view["numbers"].setdefault((hit[1], int(hit[2])), []).append(int(hit[3]))
-            elif hit := PANEL.match(name):
+    def tiles(self):
+        return [cell.name.split()[-1] for cell in self.cells()]
+
+    def read(self):
+        """What the main window shows beside the board: the rows of the panel, and the text."""
+        view = {"text": ""}
+        for name in labels(self.main_window()[0]):
+            if hit := PANEL.match(name):
                 view[hit[1]] = int(hit[2]) if hit[2].isdigit() else hit[2]
             else:
                 view["text"] += " ".join(name.split())

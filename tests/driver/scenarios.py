@@ -1,11 +1,13 @@
-"""Plays the game: a tour of all commands, without a mouse, beside a failing sound server, under
-another window manager, or through all levels.
+"""Plays the game: a tour of the commands, by keyboard, without a mouse, beside a failing sound server, or
+under another window manager.
 
-usage: [SCREEN=weston] [MANAGER=COMMAND] tests/driver/stage scenarios.py PROGRAM SCENARIO
-       The scenarios are tour, bus, sound, desktop and levels; weston has the bus alone.
+usage: [SCREEN=weston] [MANAGER=COMMAND] scripts/stage tests/driver/scenarios.py PROGRAM
+       SCENARIO
+       The scenarios are tour, keyboard, bus, sound and desktop; weston has the bus alone.
 """
 
 import os
+import re
 import shutil
 import signal
 import sys
@@ -14,70 +16,53 @@ from pathlib import Path
 
 import pyatspi
 from audio import Audio
-from board import COVERED, MARKED, MODES
-from driver import BEST, BLIP, OPTIONS, Driver
+from driver import BEST, BLIP, MODES, OPTIONS, Driver
 from gi.repository import GLib
-from program import (STAGE, TITLE, Bus, Deviation, Mouse, Program, has, lines, output, put,
-                     read_files, wait_for, xdotool)
+from program import (COVERED, GEM, MARKED, STAGE, TITLE, WRONG, Bus, Deviation, Mouse, Program, has,
+                     lines, output, put, read_files, wait_for, walk, xdotool)
 
 
 def first_run(driver):
-    """A fresh folder: the waiting window, a lost and a won level, saving, the options."""
-    driver.mode, driver.files["sarant.ini"] = 1, lines(1)
+    """A fresh folder: the waiting window, a level, the sounds, saving, the options."""
+    driver.files["sarant.ini"] = lines(1)
     driver.press(MODES[1])
     driver.look(text=f"Spielmodus : {MODES[1]}")
-    driver.press("Info")
-    driver.confirm("Grafik", "OK")
     driver.press("Information", "Beste Spieler...")
     driver.look(BLIP)
     driver.close("OK", BEST)
-    driver.new_game()
-    driver.mark(cell := driver.covered()[0])
-    driver.click(cell)  # A mark protects its cell.
-    driver.mark(cell, COVERED, button=2)
-    driver.win(left=60)
-    driver.lose()
-    driver.click(driver.covered()[0])  # Cells are dead now.
-    driver.repeat()
+    driver.press("Neues Spiel")
+    driver.look(BLIP, Level=1, Punkte=500)
+    while driver.open(driver.covered()[0], heard=True) == GEM:
+        pass
+    driver.load("reich.sar")
     driver.win()
     driver.file("ctrl+s", "fehlt/spiel")
     driver.confirm("Fehlernummer: 3", "Escape")
     points = driver.view["Punkte"] + 400
     driver.files[":spiel.sar"] = lines(1, points, 1)
     driver.file("ctrl+s", ":spiel")
-    driver.look()
     driver.press("Nächster Level")
-    driver.begin(Level=2, Punkte=points)
-    driver.hand.key("ctrl+s", "ctrl+o", "ctrl+n")  # Only the last may be used now.
+    driver.look(BLIP, Level=2, Punkte=points)
+    driver.hand.key("ctrl+s", "ctrl+n")  # Only the second may be used now.
     driver.confirm("»Neues Spiel«", "n")
     driver.press("Einstellungen")
     driver.confirm(f"mit {points}« Punkten", "Ja")
     driver.look(BLIP)
     driver.press("Level 6", MODES[3], "Soundeffekt", "Übernehmen", title=OPTIONS)
-    driver.sound, driver.mode, driver.files["sarant.ini"] = False, 3, lines(3)
+    driver.sound, driver.files["sarant.ini"] = False, lines(3)
     driver.confirm("Level:  6\nSpielmodus:  Experte", "Ja")
-    driver.begin(Level=6, Punkte=1750)
+    driver.look(Level=6, Punkte=1750)
     driver.hand.key("alt+s", "e")
-    driver.confirm("»Spiel beenden«", "j")
+    driver.confirm("»Spiel beenden«", "j")  # A click so soon would be the second of a double click.
     driver.program.end()
     if driver.audio.listen(0):  # What was played since the switch.
         raise Deviation("heard although the sound is off")
 
 
 def second_run(driver):
-    """Loading, the best list in the middle of a game, and the end behind the last level: the
-    closing messages, and an entry in the best list."""
+    """The end of the game behind the last level: the closing messages, and an entry in the list."""
     driver.file("ctrl+o", "sarant.ini")
     driver.confirm("sarant.ini\nist keine", "OK")
-    driver.load("viel.sar")
-    driver.win()
-    driver.press("Nächster Level")
-    driver.offers.add("Bester Spieler")
-    driver.begin(Level=40, Punkte=driver.view["Punkte"] + 450)
-    driver.press("Bester Spieler")
-    driver.confirm("neue Bestmarke", "n")
-    driver.offers.remove("Bester Spieler")
-    driver.look()
     driver.file("ctrl+o", "ende.sar")
     driver.confirm("Level:   41", "Ja")
     driver.confirm("alle Level erfolgreich", "OK")
@@ -93,9 +78,8 @@ def second_run(driver):
 
 def tour(path):
     audio = Audio(path)
+    put("reich.sar", 0, 5000, 1)
     first_run(Driver(path, audio))
-    put("sarant.ini", 2)
-    put("viel.sar", 38, 20000, 2)
     put("ende.sar", 40, 14500, 1)
     second_run(Driver(path, audio))
     # As it is installed, with sounds and pages in a folder of their own.
@@ -106,8 +90,10 @@ def tour(path):
     driver.hand.key("F1")  # The opener of this stage writes the name of the document down.
     note, document = STAGE / "opened", str(STAGE / "usr/share/glanzgrube/saranten.pdf")
     wait_for(lambda: note.exists() and document in note.read_text(), document)
-    driver.new_game()
-    driver.quit()
+    driver.press("Info")
+    driver.confirm("Grafik", "OK")
+    driver.press("Beenden")
+    driver.program.end()
     # A home that takes no folder, and none at all.
     for messages, data in (["Anlegen", "»Beste"], "/proc"), (["Festplatte"], "/proc/fehlt"):
         driver = Driver(path, audio, at_start=messages, XDG_DATA_HOME=data)
@@ -115,27 +101,46 @@ def tour(path):
         driver.program.end()
 
 
+def keyboard(path):
+    """What has the focus after each key of a list, and what a screen reader says of it."""
+    def heard():
+        focus = next((e for e in walk(program.app, board=True) if has(e, pyatspi.STATE_FOCUSED)), None)
+        return f"{focus.name} / {focus.description}".removesuffix(" / ") if focus else ""
+
+    def press(key, wanted):
+        Mouse().key(key)
+        wait_for(lambda: re.fullmatch(wanted, heard()), f"{wanted} after {key}")
+
+    program = Program(path)
+    wait_for(lambda: has(program.main_window(), pyatspi.STATE_ACTIVE), "the active window")
+    for line in Path(__file__).with_name("keyboard.txt").read_text().splitlines():
+        press(*line.split(" ", 1))
+    while COVERED not in heard():
+        press("Left", "Zeile.*")
+    for key, tile in (("shift+space", MARKED), ("space", MARKED), ("shift+space", COVERED),
+                      ("space", f"({GEM}|{WRONG})")):
+        press(key, f".*: {tile}")
+    Mouse().key("alt+s", "e", "j")
+    program.end()
+
+
 def bus(path):
     driver = Driver(path, Audio(path), Bus())
-    driver.new_game()
+    driver.press("Neues Spiel")
+    driver.look(BLIP, Level=1, Punkte=500)
     told = []
     pyatspi.Registry.registerEventListener(lambda event: told.append(str(event.any_data)),
                                            "object:property-change:accessible-name")
-    driver.mark(cell := driver.covered()[0])
+    driver.click(driver.covered()[0], button=3)
     wait_for(lambda: GLib.MainContext.default().iteration(False)
              or any(name.endswith(MARKED) for name in told), "the new name of a cell")
-    driver.mark(cell, COVERED)
-    driver.win()
+    driver.open(driver.covered()[0], heard=True)
     driver.quit()
 
 
 def sound(path):
     """The game must neither wait for a device that comes late and a server that stands still, dies
     and comes back, nor lose them."""
-    def open_gems():
-        for cell in driver.covered()[:5]:
-            driver.open(cell, heard=False)
-
     driver = Driver(path, Audio(path, device=False), sound=False)
     driver.press("Einstellungen")
     driver.press("Soundeffekt", title=OPTIONS)
@@ -143,30 +148,39 @@ def sound(path):
     driver.close("Schließen", OPTIONS)
     driver.audio.plug_in()
     driver.press("Optionen             ")
-    wait_for(lambda: has(driver.program.button("Sound"), pyatspi.STATE_ENABLED), "sound in menu")
+    wait_for(lambda: has(driver.program.button("Sound"), pyatspi.STATE_ENABLED), "sound in the menu")
     driver.press("Sound", "an")
     driver.sound = True
-    driver.new_game()
-    # A new effect cuts off the one before it.
-    driver.open(driver.covered(is_gem=False)[0], heard=False)
-    driver.open(driver.covered()[0], heard=False)
+    driver.press("Neues Spiel")
+    driver.look(BLIP, Level=1, Punkte=500)
+    gem = driver.program.tiles().index(GEM)
+
+    def blip(sound=None):  # A click on an open gem is heard each time.
+        driver.click(gem)
+        driver.look(sound)
+
+    while driver.open(driver.covered()[0]) != WRONG:
+        driver.audio.listen()
+    blip()  # Cuts off the effect of the error.
     if driver.audio.listen()[-4000:] not in driver.audio.effects[BLIP]:
         raise Deviation("an effect plays on beside the next")
     driver.audio.processes[0].send_signal(signal.SIGSTOP)
-    open_gems()
+    for _ in range(5):
+        blip()
     driver.audio.processes[0].send_signal(signal.SIGCONT)
     driver.audio.listen()  # The last effect comes late.
-    driver.open(driver.covered()[0])
+    blip(BLIP)
     driver.audio.close()
-    open_gems()
+    for _ in range(5):
+        blip()
     driver.audio = Audio(path)
-    driver.open(driver.covered()[0])
+    blip(BLIP)
     driver.quit()
 
 
 def desktop(path):
     """The game starts above its cover, stays minimised, comes back by a click on the cover, and an
-    open list or question survives such a click."""
+    open question survives such a click."""
     def is_minimised():
         return any("Iconic" in output("xprop", "-id", window, "WM_STATE")
                    for window in output("xdotool", "search", "--name", TITLE).split())
@@ -184,26 +198,11 @@ def desktop(path):
         wait_for(is_minimised, "minimised game")
         click_cover()
         wait_for(lambda: not is_minimised(), "game that comes back")
-    for *openers, answer, title in (("Information", "Beste Spieler...", "OK", BEST),
-                                    ("Neues Spiel", "Nein", TITLE)):
-        for name in openers:
-            mouse.click(program.button(name))
-        program.button(answer, title)
-        click_cover()
-        mouse.click(program.button(answer, title))
-        wait_for(lambda: not program.window(title), f"{title} above the game")
-
-
-def levels(path):
-    """Wins each level once, the modes in turn."""
-    names = [f"{level}.sar" for level in range(40)]
-    for level, name in enumerate(names):
-        put(name, level, 500, level % 3 + 1)
-    driver = Driver(path, Audio(path))
-    for name in names:
-        driver.load(name)
-        driver.win()
-    driver.quit()
+    mouse.click(program.button("Beenden"))
+    program.button("Nein", TITLE)
+    click_cover()
+    mouse.click(program.button("Nein", TITLE))
+    wait_for(lambda: not program.window(TITLE), "question above the game")
 
 
 if __name__ == "__main__":

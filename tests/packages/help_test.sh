@@ -15,9 +15,7 @@ found=$(pdfinfo "$pdf"
   echo "Fonts:" "$(pdffonts "$pdf" | awk 'NR > 2 { print $(NF-4), $(NF-2) }' | sort -u)"
   echo "$text"
   sed "s/$hyphen //g; s/$nobreak/ /g" <<<"$text")
-failed=0
 for line in "^Title: +$title\$" '^Page size: .*A4' '^Tagged: +yes' "^Pages: +[$pages]\$" \
   '/Lang \(de\)' /Outlines '^Fonts: yes yes$' "$hyphen " "$@"; do
-  grep -qE -- "$line" <<<"$found" || { echo "$(basename "$pdf"): no $line"; failed=1; }
+  grep -qE -- "$line" <<<"$found" || { echo "$(basename "$pdf"): no $line"; exit 1; }
 done
-exit "$failed"

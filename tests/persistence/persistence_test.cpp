@@ -1,5 +1,3 @@
-#include <random>
-
 #include "persistence/iniLumbra.h"
 #include "persistence/modDateiHandling.h"
 #include "persistence/textdatei.h"
@@ -120,29 +118,4 @@ TEST_F(Files, TheCodePageKeepsEachByte) {
   EXPECT_EQ(Speicherbar("Ju\u0308rg €\U0001F600 Ł\r\n?"), "Jürg € ?");
   SchreibeZeilen(path, {"Jörg € »ß« 😀 Ł", "a\r\nb", ""});
   EXPECT_EQ(ReadFile(path), "J\xF6rg \x80 \xBB\xDF\xAB ? ?\r\na??b\r\n\r\n");
-}
-
-TEST_F(Files, AnyBytesAreReadWithoutHarm) {
-  std::mt19937 random;  // NOLINT: the same bytes in each run
-  for (int run = 0; run < 300; ++run) {
-    QByteArray bytes;
-    for (auto length = random() % 60; length > 0; --length)
-      bytes.append("0123456789-\r\n\n\n\n\n x\x80\0"[random() % 21]);
-    for (const QString &file : {IniPfad(), BestenlistePfad(), path})
-      WriteFile(file, bytes);
-    LeseIni(screen);
-    EXPECT_TRUE(IstModus(spiel.Spielmodus));
-    BestenlisteLaden(screen);
-    spiel.Punkte = 13600;
-    screen.answers = {kJa};
-    BestenlistePruefen(screen);
-    BestenlisteSpeichern(screen);
-    const Bestenliste saved = spiel.Beste;
-    BestenlisteLaden(screen);  // A list that was saved can be loaded and says the same.
-    EXPECT_TRUE(spiel.Beste.lstName == saved.lstName && spiel.Beste.lstPunkte == saved.lstPunkte)
-        << bytes.toPercentEncoding().data();
-    screen.answers = {kJa};
-    LadeSpielstand(screen, path);
-    screen.answers = {};
-  }
 }
