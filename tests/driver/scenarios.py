@@ -197,7 +197,8 @@ def desktop(path):
         xdotool("search", "--name", TITLE, "windowminimize", "sleep", 1.5)
         wait_for(is_minimised, "minimised game")
         click_cover()
-        wait_for(lambda: not is_minimised(), "game that comes back")
+        wait_for(lambda: not is_minimised() and has(program.main_window(), pyatspi.STATE_ACTIVE),
+                 "game that comes back")
     mouse.click(program.button("Beenden"))
     program.button("Nein", TITLE)
     click_cover()
