@@ -111,7 +111,9 @@ TEST_F(Screens, AllStandsAsTheInventoryTells) {
     for (const QAction *entry : window.window()->findChildren<QAction *>())
       lines << QString("»%1« %2 %3 %4")
                    .arg(entry->text(), entry->objectName(), entry->shortcut().toString(),
-                        entry->isChecked() ? "gewählt" : "")
+                        entry->isChecked()     ? "gewählt"
+                        : entry->isSeparator() ? "Linie"
+                                               : "")
                    .trimmed();
   });
   for (int k = 0; k <= kLeereZiffer; ++k) {

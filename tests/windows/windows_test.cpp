@@ -251,22 +251,21 @@ class BestWindow : public WindowFixture {
     spiel.Punkte = points;
     ThenAnswer("J");
     Then<frmBeste>(action);
-    board->BestenlistePruefen();
+    board->Zeige(Bedienung::imgBester, true);
+    Click("imgBester");
+    EXPECT_FALSE(board->IstSichtbar(Bedienung::imgBester));
   }
   QLineEdit *Name(int row) { return Window().findChildren<QLineEdit *>().at(row); }
   void Ok() { Click(Find(Window(), "cmdEnde")); }
-  /// Tells the file and the window.
+  /// Tells the file and the window: names with their selection and cursor, and points.
   void Tell(const char *what) {
-    told << what << ", "
-         << ReadFile(DataFile("sarant.txt")).simplified().toPercentEncoding(" ").data()
-         << ", threshold " << spiel.Bestenschwelle;
-    if (Window().isVisible()) {
-      for (int row = 0; row < kBeste; ++row)
-        told << ", " << Name(row)->text() << (Name(row)->hasSelectedText() ? " (selected) " : " ")
-             << Window().findChildren<Zifferreihe *>().at(row)->Gezeigt();
-      told << (Find(Window(), "lblClear")->isHidden() ? "" : ", may be cleared");
-    }
-    told << "\n";
+    const QByteArray file = ReadFile(DataFile("sarant.txt")).simplified();
+    told << what << ": " << file.toPercentEncoding(" ").data() << ", " << spiel.Bestenschwelle;
+    for (int row = 0; row < kBeste && Window().isVisible(); ++row)
+      told << " | " << Name(row)->text() << " [" << Name(row)->selectedText() << "] "
+           << Name(row)->cursorPosition() << " "
+           << Window().findChildren<Zifferreihe *>().at(row)->Gezeigt();
+    told << (Find(Window(), "lblClear")->isVisible() ? ", may be cleared\n" : "\n");
   }
 };
 
