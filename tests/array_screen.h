@@ -86,8 +86,8 @@ class ArrayScreen : public Ansicht {
 
  private:
   static std::string Name(Bedienung bedienung) {
-    return std::array{"next", "repeat", "save", "load", "best", "arrow"}.at(
-        static_cast<std::size_t>(bedienung));
+    static constexpr std::array kNames{"next", "repeat", "save", "load", "best", "arrow"};
+    return Element(kNames, bedienung);
   }
   static std::string Name(Pfeil pfeil) {
     return pfeil == Pfeil::Start ? "start arrow" : "next arrow";

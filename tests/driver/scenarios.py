@@ -1,8 +1,7 @@
 """Plays the game: a tour of the commands, by keyboard, without a mouse, beside a failing sound server, or
 under another window manager.
 
-usage: [SCREEN=weston] [MANAGER=COMMAND] scripts/stage tests/driver/scenarios.py PROGRAM
-       SCENARIO
+usage: [SCREEN=weston] [MANAGER=COMMAND] scripts/stage tests/driver/scenarios.py PROGRAM SCENARIO
        The scenarios are tour, keyboard, bus, sound and desktop; weston has the bus alone.
 """
 
@@ -155,9 +154,10 @@ def sound(path):
     driver.look(BLIP, Level=1, Punkte=500)
     gem = driver.program.tiles().index(GEM)
 
-    def blip(sound=None):  # A click on an open gem is heard each time.
-        driver.click(gem)
-        driver.look(sound)
+    def blip(sound=None, times=1):  # A click on an open gem is heard each time.
+        for _ in range(times):
+            driver.click(gem)
+            driver.look(sound)
 
     while driver.open(driver.covered()[0]) != WRONG:
         driver.audio.listen()
@@ -165,14 +165,12 @@ def sound(path):
     if driver.audio.listen()[-4000:] not in driver.audio.effects[BLIP]:
         raise Deviation("an effect plays on beside the next")
     driver.audio.processes[0].send_signal(signal.SIGSTOP)
-    for _ in range(5):
-        blip()
+    blip(times=5)
     driver.audio.processes[0].send_signal(signal.SIGCONT)
     driver.audio.listen()  # The last effect comes late.
     blip(BLIP)
     driver.audio.close()
-    for _ in range(5):
-        blip()
+    blip(times=5)
     driver.audio = Audio(path)
     blip(BLIP)
     driver.quit()
