@@ -144,6 +144,9 @@ TEST_F(MainWindow, StandsInTheMiddleBeforeACoverThatBringsItBack) {
 }
 
 TEST_F(MainWindow, ShowsAllAtOnceAndDecodesNoPictureWhilePlaying) {
+  for (int place = 51; place <= 55; ++place)
+    board->SetzeZahl(place, place - 50);
+  EXPECT_EQ(board->findChild<Spielbrett *>()->Linientext(false, 1), "Zeile 1: 5, 4, 3, 2, 1");
   QCoreApplication::processEvents();
   const int loaded = GeladeneBilder();
   const auto ExpectPainted = [this] {
