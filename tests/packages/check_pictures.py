@@ -14,7 +14,7 @@ from PIL import Image
 
 FOLDER, SOURCES = map(Path, sys.argv[1:])
 COLOURS = {name: tuple(bytes.fromhex(value)) for file, pattern in
-           (("assets/bilder/palette.cmake", r'set\((\w+) +"#(\w{6})"\)'),
+           (("assets/bilder/palette.toml", r'(\w+) += "#(\w{6})"'),
             ("controls/beschriftung.h", r"(k\w+) = 0xff(\w{6})"))
            for name, value in re.findall(pattern, (SOURCES / file).read_text())}
 TEXTS = [line.split() for line in Path(__file__).with_name("contrast.txt").open() if line[0] != "#"]
