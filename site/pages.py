@@ -8,6 +8,7 @@ usage: site/pages.py RELEASE BUILD
 import re
 import shutil
 import sys
+import tomllib
 from calendar import timegm
 from collections import defaultdict
 from email.utils import parsedate_to_datetime
@@ -24,6 +25,14 @@ HOME = "https://www.glanzgrube.example/"
 LICENCES = {"www.gnu.org"}
 BOOKLETS = {"index": "saranten", "Meldefenster": "Meldefenster", "Bestespieler": "Bestespieler"}
 MONTHS = ("Januar Februar März April Mai Juni Juli August September Oktober November Dezember").split()
+TEMPLATES = Environment(loader=FileSystemLoader(SITE, "utf-8"), autoescape=True, undefined=StrictUndefined,
+                        trim_blocks=True)
+
+
+def style():
+    """The style sheet, in the colours of the game."""
+    palette = tomllib.loads((SOURCE / "assets/bilder/palette.toml").read_text("utf-8"))
+    return TEMPLATES.get_template("stil.css").render(palette)
 
 
 def releases():
@@ -73,41 +82,34 @@ def booklet(name, build, target):
 def write(release, build):
     told = releases()
     kinds = files(release / "dateien")
-    pictures = release / "bilder"
-    shutil.copytree(SOURCE / "docs/bilder", pictures)
-    for name in "platte1", "sarant", "zahl3", "zahl4":
-        shutil.copy(build / f"bilder/{name}@3x.png", pictures)
-    shutil.copy(SITE / "stil.css", release)
-    shutil.copy(SOURCE / "assets/bilder/glanzgrube.svg", release / "symbol.svg")
+    shutil.copytree(SOURCE / "docs/bilder", release / "bilder")
+    (release / "stil.css").write_text(style())
+    shutil.copy(build / "assets/bilder/glanzgrube.svg", release / "symbol.svg")
     manual = release / "anleitung"
     manual.mkdir()
-    for name in re.findall(r"anleitung/([^/]*\.png)", (SITE / "stil.css").read_text()):
+    for name in re.findall(r"anleitung/([^/]*\.png)", style()):
         shutil.copy(build / "bilder" / name, manual)
     texts = {}
     for page, name in BOOKLETS.items():
         texts[page] = booklet(name, build, manual)
         shutil.copy(build / f"bin/{name}.pdf", manual)
 
-    templates = Environment(loader=FileSystemLoader(SITE), autoescape=True, undefined=StrictUndefined,
-                            trim_blocks=True)
     def render(template, page, **values):
-        html = templates.get_template(template).render(
+        html = TEMPLATES.get_template(template).render(
             wurzel="../" * page.count("/"), seite=page, arten=kinds, ausgaben=told, version=told[0]["version"],
-            datum=told[0]["datum"], klasse="", **values)
+            datum=told[0]["datum"], **values)
         (release / page).parent.mkdir(exist_ok=True)
         (release / page).write_text(html)
-    for template in SITE.glob("*/index.html"):
-        page = str(template.relative_to(SITE))
-        if page != "anleitung/index.html":
-            render(page, page)
-    render("index.html", "index.html")
+
+    for page in "index.html", "fehler/index.html", "neues/index.html", "quellen/index.html":
+        render(page, page)
     for page, (title, text) in texts.items():
         render("anleitung/index.html", f"anleitung/{page}.html", heft=page, titel=title, text=text,
                pdf=f"{BOOKLETS[page]}.pdf", hefte={key: value[0] for key, value in texts.items()})
 
 
 def check(release):
-    """Ends with what leads nowhere, what is missing and what does not belong together."""
+    """Ends with what leads nowhere and what does not belong together."""
     faults = []
     for page in [release / "stil.css", *sorted(release.rglob("*.html"))]:
         text = page.read_text()
@@ -121,7 +123,7 @@ def check(release):
                 faults.append(f"{page}: {path}#{name}")
     for source in (SOURCE / "packaging").rglob("*.*"):
         for path in re.findall(HOME + r"([^\s<\"]*)", source.read_text()):
-            if not (release / path / ("index.html" if path.endswith("/") else "")).is_file():
+            if not (release / re.sub("(^|/)$", r"\1index.html", path)).is_file():
                 faults.append(f"{source}: {HOME}{path}")
 
     folder = release / "dateien"
@@ -130,12 +132,14 @@ def check(release):
         listed = re.findall(r"^ (\w{64}) \d+ (\S+)", source.read_text(), re.M)
         faults += [f"{source}: {name}" for digest, name in listed if f"{digest}  {name}" not in sums]
     made = {int(package.read_bytes()[24:36]) for package in folder.glob("*.deb")}
+    needed = ["qt6-translations_*"]
     for package in map(ZipFile, folder.glob("*.zip")):
         entry = next(name for name in package.namelist() if name.endswith("Lizenzen/LIESMICH.txt"))
-        needed = re.findall(r"(qt6-\w+) (\d\S+)", package.read(entry).decode())
-        faults += [f"missing: {source}" for source in map("_".join, needed)
-                   if not (folder / f"{source}.dsc").is_file()]
+        needed += map("_".join, re.findall(r"(qt6-\w+) (\d\S+)", package.read(entry).decode()))
         made.add(timegm(package.getinfo(entry).date_time))
+    for source in needed:
+        if not list(folder.glob(f"{source}.dsc")):
+            print(f"Left out: the source {source}, which the licence asks for")
     if max(made) - min(made) > 2:  # A ZIP knows every other second.
         faults.append("The packages are of several commits.")
     sys.exit("\n".join(faults))
