@@ -8,7 +8,7 @@
 #include "core/level.h"
 #include "core/zahlen.h"
 #include "core/zug.h"
-#include "platform/datenwurzel.h"
+#include "platform/system.h"
 #include "shell/frmSpielfeld.h"
 #include "shell/start.h"
 #include "tests/array_screen.h"

@@ -11,7 +11,7 @@
 #include "controls/wiederholung.h"
 #include "core/spiel.h"
 #include "platform/modShellExecute.h"
-#include "platform/tastenplatz.h"
+#include "platform/system.h"
 
 /// The differences between the two windows.
 struct Meldelayout {

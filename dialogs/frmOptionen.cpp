@@ -7,7 +7,7 @@
 #include "core/ansicht.h"
 #include "core/befehle.h"
 #include "persistence/iniLumbra.h"
-#include "platform/soundgeraet.h"
+#include "platform/mod_MySound.h"
 
 namespace {
 
@@ -67,7 +67,7 @@ frmOptionen::frmOptionen(QWidget *hauptfenster, Ansicht &ansicht)
   (new Bild(this, kNehmen))->SetzeKlick([this] { cmdNehmen_Click(); });
 
   ZeigeSound();
-  connect(&DerSoundmelder(), &Soundmelder::Gewechselt, this, &frmOptionen::ZeigeSound);
+  connect(&DasSoundgeraet(), &Soundgeraet::Gewechselt, this, &frmOptionen::ZeigeSound);
   imgModus_.Waehle(ModusWahl);
   imgLevel_.Waehle(LevelWahl);
 }
@@ -83,7 +83,7 @@ void frmOptionen::imgModus_Click(int modus) {
 }
 
 void frmOptionen::imgSound_Click(bool an) {
-  if (an && !SoundGeraetDa()) {
+  if (an && !DasSoundgeraet().SoundGeraetDa()) {
     ansicht_.Melde(MeldungKeineSoundkarte);
     return;
   }
@@ -103,7 +103,7 @@ void frmOptionen::cmdNehmen_Click() {
 }
 
 void frmOptionen::ZeigeSound() {
-  const bool an = SoundWahl && SoundGeraetDa();
+  const bool an = SoundWahl && DasSoundgeraet().SoundGeraetDa();
   imgSound_[0]->setVisible(!an);
   imgSound_[1]->setVisible(an);
 }

@@ -14,8 +14,6 @@
 
 namespace {
 
-const QString kEndung = ".sar";
-
 struct Spielstand {
   std::int16_t Level = 0;
   QString Punkte;  ///< As in the file; converted when the player has confirmed.
@@ -49,7 +47,7 @@ void MeldeLesefehler(Ansicht &ansicht, Dateifehler fehler) {
 }  // namespace
 
 bool SpielstandVorhanden() {
-  return QDirIterator(Datenpfad(""), {"*" + kEndung}, QDir::Files | QDir::Hidden).hasNext();
+  return QDirIterator(Datenpfad(""), {"*" + kSpielendung}, QDir::Files | QDir::Hidden).hasNext();
 }
 
 void SucheSpielstand(Ansicht &ansicht, bool &weiter) {
@@ -58,7 +56,7 @@ void SucheSpielstand(Ansicht &ansicht, bool &weiter) {
 }
 
 void LadeGewaehlteDatei(Ansicht &ansicht, const QString &pfad) {
-  if (pfad.endsWith(kEndung))
+  if (pfad.endsWith(kSpielendung))
     LadeSpielstand(ansicht, pfad);
   else
     ansicht.Melde(MeldungFalscherDateityp(Dateititel(pfad).toStdString()));
@@ -87,7 +85,7 @@ void LadeSpielstand(Ansicht &ansicht, const QString &pfad) {
 }
 
 QString MitEndung(const QString &pfad) {
-  return pfad.endsWith(kEndung) ? pfad : pfad + kEndung;
+  return pfad.endsWith(kSpielendung) ? pfad : pfad + kSpielendung;
 }
 
 void SpeichereSpielstand(Ansicht &ansicht, const QString &pfad) {

@@ -8,7 +8,7 @@
 #include <system_error>
 
 #include "platform/codepage.h"
-#include "platform/dateisync.h"
+#include "platform/system.h"
 
 namespace {
 

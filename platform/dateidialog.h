@@ -9,5 +9,6 @@
 ///
 /// Windows: the system's own dialog. Other systems: Qt's, in German on a machine of any language.
 /// @param ordner   the folder in which the dialog opens; empty if it does not matter.
+/// @param filter   names the files that the dialog lists.
 QString WaehleSpieldatei(QFileDialog::AcceptMode modus, QWidget *besitzer, const QString &titel,
-                         const QString &ordner);
+                         const QString &ordner, const QString &filter);

@@ -5,6 +5,8 @@
 
 class QWidget;
 
+inline const QString kSpielendung = ".sar";  ///< The end of the name of a saved game.
+
 /// Both let the player choose any name, existing or not, and do not ask before a file is replaced.
 /// They return the full path without leading and trailing blanks, or an empty text if the player
 /// cancels. The folder that the player went to is not remembered.

@@ -2,6 +2,7 @@
 
 #include "platform/modExistiertDatei.h"
 #include "platform/pfade.h"
+#include "platform/system.h"
 
 void OeffneHilfe(const QString &name) {
   const QString pfad = MitBackslash(Ressourcenordner()) + name;

@@ -6,6 +6,3 @@
 /// Opens a help page in the default application for it and returns at once. Nothing happens if the
 /// page is missing or no application opens it.
 void OeffneHilfe(const QString &name);
-
-/// The step of OeffneHilfe() that differs between systems.
-void OeffneDokument(const QString &pfad);

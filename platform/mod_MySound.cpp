@@ -4,20 +4,11 @@
 #include <array>
 
 #include "platform/pfade.h"
-#include "platform/soundgeraet.h"
 
-namespace {
-
-constexpr std::array<const char *, 6> kSoundDateien{"WHOOSH.WAV", "FRAGE.WAV", "FEHLER.WAV",
-                                                    "BLIP.WAV",   "START.WAV", "TADA.WAV"};
-
-}  // namespace
-
-void SpieleSound(int n) {
-  const auto index = static_cast<std::size_t>(n - 1);
-  if (index >= kSoundDateien.size())
-    return;
-  const QString pfad = MitBackslash(Ressourcenordner()) + kSoundDateien[index];
-  if (QFileInfo(pfad).isFile())
-    SpieleWellendatei(pfad);
+QString Sounddatei(int n) {
+  constexpr std::array kSoundDateien{"WHOOSH.WAV", "FRAGE.WAV", "FEHLER.WAV",
+                                     "BLIP.WAV",   "START.WAV", "TADA.WAV"};
+  const QString pfad =
+      MitBackslash(Ressourcenordner()) + kSoundDateien.at(static_cast<std::size_t>(n - 1));
+  return QFileInfo(pfad).isFile() ? pfad : QString();
 }

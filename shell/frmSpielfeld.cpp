@@ -153,7 +153,7 @@ void frmSpielfeld::StoppePfeil(Pfeil pfeil) {
 
 void frmSpielfeld::SpieleSound(int effekt) {
   if (spiel.SoundAn)
-    ::SpieleSound(effekt);
+    DasSoundgeraet().SpieleSound(effekt);
 }
 
 void frmSpielfeld::Melde(const Meldung &meldung) {

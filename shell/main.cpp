@@ -3,8 +3,8 @@
 #include <cstdlib>
 
 #include "controls/masse.h"
-#include "platform/datenwurzel.h"
 #include "platform/fenstersystem.h"
+#include "platform/system.h"
 #include "shell/frmSpielfeld.h"
 #include "shell/start.h"
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/befehle.h"
-#include "platform/soundgeraet.h"
+#include "platform/mod_MySound.h"
 #include "shell/frmSpielfeld.h"
 
 namespace {
@@ -68,10 +68,10 @@ QAction *BaueSoundmenue(QMenu *menue) {
   QObject::connect(mnusoundan, &QActionGroup::triggered, menue,
                    [an](const QAction *wahl) { spiel.SoundAn = wahl == an; });
 
-  const auto Frage = [mnuSound] { mnuSound->setEnabled(SoundGeraetDa()); };
-  QObject::connect(&DerSoundmelder(), &Soundmelder::Gewechselt, menue, Frage);
-  QObject::connect(menue, &QMenu::aboutToShow, mnuSound, Frage);
-  Frage();
+  const auto Erlaube = [mnuSound] { mnuSound->setEnabled(DasSoundgeraet().SoundGeraetDa()); };
+  QObject::connect(&DasSoundgeraet(), &Soundgeraet::Gewechselt, menue, Erlaube);
+  QObject::connect(menue, &QMenu::aboutToShow, mnuSound, Erlaube);
+  Erlaube();
   return mnuSound;
 }
 

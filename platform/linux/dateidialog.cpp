@@ -55,8 +55,9 @@ class DeutscheSpalten : public QIdentityProxyModel {
 /// leading ":" for a resource of the program, and ignores a name that is too long without a word.
 class Dateidialog : public QFileDialog {
  public:
-  Dateidialog(AcceptMode modus, QWidget *besitzer, const QString &titel, const QString &ordner)
-      : QFileDialog(besitzer, titel, ordner, "Spieldateien (*.sar)") {
+  Dateidialog(AcceptMode modus, QWidget *besitzer, const QString &titel, const QString &ordner,
+              const QString &filter)
+      : QFileDialog(besitzer, titel, ordner, filter) {
     setOptions(DontUseNativeDialog | DontConfirmOverwrite);
     setAcceptMode(modus);
     setFileMode(AnyFile);
@@ -90,9 +91,9 @@ class Dateidialog : public QFileDialog {
 }  // namespace
 
 QString WaehleSpieldatei(QFileDialog::AcceptMode modus, QWidget *besitzer, const QString &titel,
-                         const QString &ordner) {
+                         const QString &ordner, const QString &filter) {
   // Qt keeps a history of folders in QtProject.conf. A path below /dev/null cannot be written.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
-  Dateidialog dialog(modus, besitzer, titel, ordner);
+  Dateidialog dialog(modus, besitzer, titel, ordner, filter);
   return dialog.exec() == QDialog::Accepted ? dialog.Pfad() : QString();
 }

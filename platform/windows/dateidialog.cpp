@@ -1,8 +1,8 @@
 #include "platform/dateidialog.h"
 
 QString WaehleSpieldatei(QFileDialog::AcceptMode modus, QWidget *besitzer, const QString &titel,
-                         const QString &ordner) {
-  QFileDialog dialog(besitzer, titel, ordner, "Spieldateien (*.sar)");
+                         const QString &ordner, const QString &filter) {
+  QFileDialog dialog(besitzer, titel, ordner, filter);
   dialog.setAcceptMode(modus);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);

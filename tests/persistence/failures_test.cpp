@@ -9,7 +9,7 @@
 
 #include "persistence/iniLumbra.h"
 #include "persistence/modDateiHandling.h"
-#include "platform/datenwurzel.h"
+#include "platform/system.h"
 #include "tests/persistence/fixture.h"
 
 static int writeError = 0, syncError = 0, refused = 0;

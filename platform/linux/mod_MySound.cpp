@@ -10,11 +10,12 @@
 #include <QFile>
 #include <QPointer>
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
 
-#include "platform/soundgeraet.h"
+#include "platform/mod_MySound.h"
 
 namespace {
 
@@ -52,10 +53,10 @@ Sound Lies(const QString &pfad) {
 }
 
 /// The connection to the sound server.
-class Soundserver final : public Soundmelder {
+class Soundserver final : public Soundgeraet {
  public:
-  explicit Soundserver(QObject *besitzer)
-      : Soundmelder(besitzer), schleife_(pa_glib_mainloop_new(nullptr)) {
+  explicit Soundserver(QObject *besitzer) : schleife_(pa_glib_mainloop_new(nullptr)) {
+    setParent(besitzer);
     Verbinde();
   }
   ~Soundserver() override {
@@ -65,19 +66,20 @@ class Soundserver final : public Soundmelder {
   Soundserver(const Soundserver &) = delete;
   Soundserver &operator=(const Soundserver &) = delete;
 
-  bool GeraetDa() {
+  bool SoundGeraetDa() override {
     if (!IstVerbunden())
       Verbinde();
     return geraete_ > 0;
   }
 
-  void Spiele(const QString &pfad) {
+  void SpieleSound(int n) override {
     if (!IstVerbunden())
       Verbinde();
+    if (!sounds_.contains(n))
+      sounds_[n] = Lies(Sounddatei(n));
+    wartend_ = &sounds_[n];
     if (pa_context_get_state(verbindung_) == PA_CONTEXT_READY)
-      Beginne(Lies(pfad));
-    else
-      wartend_ = pfad;
+      Beginne();
   }
 
  private:
@@ -102,7 +104,7 @@ class Soundserver final : public Soundmelder {
     if (!verbindung_)
       return;
     Verstumme();
-    wartend_.clear();
+    wartend_ = nullptr;
     pa_context_set_state_callback(verbindung_, nullptr, nullptr);
     pa_context_set_subscribe_callback(verbindung_, nullptr, nullptr);
     pa_context_disconnect(verbindung_);
@@ -112,13 +114,12 @@ class Soundserver final : public Soundmelder {
 
   void ZustandGewechselt() {
     if (!IstVerbunden()) {
-      wartend_.clear();
+      wartend_ = nullptr;
       MerkeGeraete(0);
     } else if (pa_context_get_state(verbindung_) == PA_CONTEXT_READY) {
       Erledigt(pa_context_subscribe(verbindung_, PA_SUBSCRIPTION_MASK_SINK, nullptr, nullptr));
       ZaehleGeraete();
-      if (!wartend_.isEmpty())
-        Beginne(Lies(std::exchange(wartend_, {})));
+      Beginne();
     }
   }
 
@@ -140,22 +141,23 @@ class Soundserver final : public Soundmelder {
       emit Gewechselt();
   }
 
-  void Beginne(Sound sound) {
+  /// Plays the effect that waits, if any.
+  void Beginne() {
     Verstumme();
-    if (sound.Werte.empty())
+    sound_ = std::exchange(wartend_, nullptr);
+    if (!sound_ || sound_->Werte.empty())
       return;
-    sound_ = std::move(sound);
-    strom_ = pa_stream_new(verbindung_, "Sound", &sound_.Format, nullptr);
+    strom_ = pa_stream_new(verbindung_, "Sound", &sound_->Format, nullptr);
     if (!strom_)
       return;
     pa_stream_set_state_callback(
         strom_, [](pa_stream *strom, void *ich) { Das(ich).Bereit(strom); }, this);
     // The server's buffer holds the whole effect, so the sound has no gaps while the game is busy.
-    const auto laenge = static_cast<std::uint32_t>(sound_.Bytes());
-    const auto vorlauf = static_cast<std::uint32_t>(pa_usec_to_bytes(kVorlauf, &sound_.Format));
+    const auto laenge = static_cast<std::uint32_t>(sound_->Bytes());
+    const auto vorlauf = static_cast<std::uint32_t>(pa_usec_to_bytes(kVorlauf, &sound_->Format));
     // It begins with the first value: a stream that does not wait plays silence until then, and
     // drops as much of the effect.
-    const auto anfang = static_cast<std::uint32_t>(pa_frame_size(&sound_.Format));
+    const auto anfang = static_cast<std::uint32_t>(pa_frame_size(&sound_->Format));
     const pa_buffer_attr puffer{UINT32_MAX, laenge, anfang,
                                 (laenge - std::min(laenge, vorlauf)) / 2, UINT32_MAX};
     pa_stream_connect_playback(strom_, nullptr, &puffer, PA_STREAM_NOFLAGS, nullptr, nullptr);
@@ -168,7 +170,7 @@ class Soundserver final : public Soundmelder {
       pa_stream_disconnect(strom);
       return;
     }
-    pa_stream_write(strom_, sound_.Werte.data(), sound_.Bytes(), nullptr, 0, PA_SEEK_RELATIVE);
+    pa_stream_write(strom_, sound_->Werte.data(), sound_->Bytes(), nullptr, 0, PA_SEEK_RELATIVE);
     Erledigt(pa_stream_drain(strom_, nullptr, nullptr));
   }
 
@@ -189,30 +191,19 @@ class Soundserver final : public Soundmelder {
 
   pa_glib_mainloop *schleife_;
   pa_context *verbindung_ = nullptr;
-  pa_stream *strom_ = nullptr;  ///< Plays `sound_`.
-  Sound sound_;
-  QString wartend_;   ///< The last effect requested before the connection was ready.
-  int geraete_ = 0;   ///< Devices, as the server last reported.
-  int gezaehlt_ = 0;  ///< Callbacks of the list of devices so far.
+  pa_stream *strom_ = nullptr;   ///< Plays `sound_`.
+  std::map<int, Sound> sounds_;  ///< By number, loaded at their first use.
+  const Sound *sound_ = nullptr;
+  const Sound *wartend_ = nullptr;  ///< The effect requested last, until the connection is ready.
+  int geraete_ = 0;                 ///< Devices, as the server last reported.
+  int gezaehlt_ = 0;                ///< Callbacks of the list of devices so far.
 };
 
-Soundserver &DerServer() {
+}  // namespace
+
+Soundgeraet &DasSoundgeraet() {
   static QPointer<Soundserver> server;
   if (!server)
     server = new Soundserver(QCoreApplication::instance());
   return *server;
-}
-
-}  // namespace
-
-Soundmelder &DerSoundmelder() {
-  return DerServer();
-}
-
-bool SoundGeraetDa() {
-  return DerServer().GeraetDa();
-}
-
-void SpieleWellendatei(const QString &pfad) {
-  DerServer().Spiele(pfad);
 }

@@ -1,6 +1,11 @@
-#include "platform/datenwurzel.h"
+#include "platform/system.h"
 
+#include <unistd.h>
+
+#include <QDesktopServices>
 #include <QDir>
+#include <QKeyEvent>
+#include <QUrl>
 
 QString Datenwurzel() {
   // A relative path is ignored: it would depend on the working directory. QStandardPaths takes it.
@@ -10,4 +15,17 @@ QString Datenwurzel() {
     wurzel = QDir::isAbsolutePath(heim) ? heim + "/.local/share" : QString();
   wurzel = QDir::cleanPath(wurzel);
   return !wurzel.isEmpty() && QDir().mkpath(wurzel) ? wurzel : QString();
+}
+
+void OeffneDokument(const QString &pfad) {
+  QDesktopServices::openUrl(QUrl::fromLocalFile(pfad));
+}
+
+bool Synchronisiere(int datei) {
+  return fsync(datei) == 0;
+}
+
+unsigned Tastenplatz(const QKeyEvent &taste) {
+  constexpr unsigned kVersatz = 8;  // X11 adds it to a scan code, and Wayland does the same.
+  return taste.nativeScanCode() - kVersatz;
 }
