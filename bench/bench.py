@@ -18,126 +18,126 @@ from driver import Driver
 from program import put, wait_for
 from stopwatch import LIMIT, Stopwatch
 
-RUHE = 20.0  # seconds over which an idle minute is measured
+IDLE = 20.0  # seconds over which an idle minute is measured
 STARTS = 21
-KLICKS = 200
-MITTE = 600, 500  # lies within the window of each program that is started
-TABELLE = re.compile("(?<=<!-- begin of the table -->\n).*(?=<!-- end of the table -->)", re.DOTALL)
+CLICKS = 200
+MIDDLE = 600, 500  # lies within the window of each program that is started
+TABLE = re.compile("(?<=<!-- begin of the table -->\n).*(?=<!-- end of the table -->)", re.DOTALL)
 
 
-def speicher(pid):
+def memory(pid):
     """Resident memory in MB."""
-    seiten = Path(f"/proc/{pid}/statm").read_text().split()[1]
-    return int(seiten) * os.sysconf("SC_PAGE_SIZE") / 2**20
+    pages = Path(f"/proc/{pid}/statm").read_text().split()[1]
+    return int(pages) * os.sysconf("SC_PAGE_SIZE") / 2**20
 
 
-def rechenzeit(pid):
+def processor_time(pid):
     """Processor time in milliseconds that an idle minute costs."""
     def ticks():
         return sum(map(int, Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()[11:13]))
-    vorher = ticks()
-    time.sleep(RUHE)
-    return (ticks() - vorher) * 1000 / os.sysconf("SC_CLK_TCK") * 60 / RUHE
+    before = ticks()
+    time.sleep(IDLE)
+    return (ticks() - before) * 1000 / os.sysconf("SC_CLK_TCK") * 60 / IDLE
 
 
-def starte(schirm, befehl, farbe=None):
+def start(screen, command, colour=None):
     """Starts a program without accessibility. Returns the milliseconds until the pixel bears its
     colour, the resident memory, and the pixel's colour at last."""
-    leer = schirm.pixel(MITTE)
-    beginn = time.perf_counter()
-    prozess = subprocess.Popen(befehl, stderr=subprocess.DEVNULL,
+    empty = screen.pixel(MIDDLE)
+    began = time.perf_counter()
+    process = subprocess.Popen(command, stderr=subprocess.DEVNULL,
                                env=os.environ | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "0"})
-    while schirm.pixel(MITTE) != farbe and time.perf_counter() - beginn < LIMIT:
+    while screen.pixel(MIDDLE) != colour and time.perf_counter() - began < LIMIT:
         time.sleep(0.0005)
-    zeit = 1000 * (time.perf_counter() - beginn)
+    milliseconds = 1000 * (time.perf_counter() - began)
     time.sleep(1)
-    ergebnis = zeit, speicher(prozess.pid), schirm.pixel(MITTE)
-    prozess.kill()
-    prozess.wait()
-    wait_for(lambda: schirm.pixel(MITTE) == leer, "leerer Schirm")
-    return ergebnis
+    result = milliseconds, memory(process.pid), screen.pixel(MIDDLE)
+    process.kill()
+    process.wait()
+    wait_for(lambda: screen.pixel(MIDDLE) == empty, "an empty screen")
+    return result
 
 
-def miss_starts(schirm, befehle):
+def measure_starts(screen, commands):
     """Start times and memory of each program, run by run. The programs take turns, so that all of a
     round find the machine in the same mood."""
-    farben = [starte(schirm, befehl)[2] for befehl in befehle]
-    runden = [[starte(schirm, befehl, farbe)[:2] for befehl, farbe in zip(befehle, farben)]
+    colours = [start(screen, command)[2] for command in commands]
+    rounds = [[start(screen, command, colour)[:2] for command, colour in zip(commands, colours)]
               for _ in range(STARTS)]
-    return [list(zip(*laeufe)) for laeufe in zip(*runden)]
+    return [list(zip(*runs)) for runs in zip(*rounds)]
 
 
-def startzeilen(schirm, spiel, leer):
+def start_rows(screen, game, bare):
     """The rows about the start and the memory, beside a bare window and two other games."""
-    befehle = [[spiel], leer, ["/usr/games/kmines"], ["/usr/games/gnome-mines"]]
-    (zeiten, mb), (zeiten_leer, mb_leer), (kmines, _), (gnome, _) = miss_starts(schirm, befehle)
-    mittel = statistics.median
+    commands = [[game], bare, ["/usr/games/kmines"], ["/usr/games/gnome-mines"]]
+    (times, mb), (bare_times, bare_mb), (kmines, _), (gnome, _) = measure_starts(screen, commands)
+    median = statistics.median
 
-    def verhaeltnis(andere):
-        return f"{mittel(eins / zwei for eins, zwei in zip(zeiten, andere)):.2f}"
+    def ratio(others):
+        return f"{median(one / other for one, other in zip(times, others)):.2f}"
 
     return [
-        ("Start to first painted frame", f"{mittel(zeiten):.0f} ms"),
-        ("The same, bare Qt window with one picture", f"{mittel(zeiten_leer):.0f} ms"),
-        ("The same, KMines", f"{mittel(kmines):.0f} ms"),
-        ("The same, GNOME Mines", f"{mittel(gnome):.0f} ms"),
-        (f"Ratio to the bare window, median of {STARTS} pairs", verhaeltnis(zeiten_leer)),
-        ("Ratio to the quicker of the two games", verhaeltnis(min(kmines, gnome, key=mittel))),
-        ("Resident memory", f"{mittel(mb):.1f} MB"),
-        ("The same, bare Qt window with one picture", f"{mittel(mb_leer):.1f} MB"),
-        ("Memory above the bare window", f"{mittel(mb) - mittel(mb_leer):.1f} MB")]
+        ("Start to first painted frame", f"{median(times):.0f} ms"),
+        ("The same, bare Qt window with one picture", f"{median(bare_times):.0f} ms"),
+        ("The same, KMines", f"{median(kmines):.0f} ms"),
+        ("The same, GNOME Mines", f"{median(gnome):.0f} ms"),
+        (f"Ratio to the bare window, median of {STARTS} pairs", ratio(bare_times)),
+        ("Ratio to the quicker of the two games", ratio(min(kmines, gnome, key=median))),
+        ("Resident memory", f"{median(mb):.1f} MB"),
+        ("The same, bare Qt window with one picture", f"{median(bare_mb):.1f} MB"),
+        ("Memory above the bare window", f"{median(mb) - median(bare_mb):.1f} MB")]
 
 
-def spielzeilen(pfad, uhr):
+def play_rows(path, stopwatch):
     """The rows about clicks and idle minutes in a real level."""
     put("bench.sar", 0, 9000, 1)
-    spiel = Driver(pfad, Audio(pfad), uhr)
-    spiel.load("bench.sar")
-    pid = spiel.program.process.pid
-    zelle = spiel.program.cells()[spiel.covered()[0]]
-    for _ in range(KLICKS):
-        uhr.click(zelle, 3)
-    rechts = statistics.median(uhr.times)
-    spielend = rechenzeit(pid)
-    uhr.times.clear()
-    spiel.win()
-    links = statistics.median(uhr.times)
+    game = Driver(path, Audio(path), stopwatch)
+    game.load("bench.sar")
+    pid = game.program.process.pid
+    cell = game.program.cells()[game.covered()[0]]
+    for _ in range(CLICKS):
+        stopwatch.click(cell, 3)
+    right = statistics.median(stopwatch.times)
+    playing = processor_time(pid)
+    stopwatch.times.clear()
+    game.win()
+    left = statistics.median(stopwatch.times)
     return [
-        ("Right press to painted pixel, median", f"{rechts:.1f} ms"),
-        ("Left press to painted pixel, with sound, median", f"{links:.1f} ms"),
-        ("Processor time of an idle minute, playing", f"{spielend:.0f} ms"),
+        ("Right press to painted pixel, median", f"{right:.1f} ms"),
+        ("Left press to painted pixel, with sound, median", f"{left:.1f} ms"),
+        ("Processor time of an idle minute, playing", f"{playing:.0f} ms"),
         ("Processor time of an idle minute, solved (arrow blinks)",
-         f"{rechenzeit(pid):.0f} ms")]
+         f"{processor_time(pid):.0f} ms")]
 
 
-def regelzeilen(programm):
+def rule_rows(program_path):
     """The rows of the benchmarks of the rules."""
-    umgebung = os.environ | {"QT_QPA_PLATFORM": "offscreen"}
-    ausgabe = subprocess.check_output([programm, "--benchmark_format=json"], env=umgebung)
-    for messung in json.loads(ausgabe)["benchmarks"]:
-        yield messung["name"], f"{messung['real_time']:.1f} {messung['time_unit']}"
-        if "Bilder" in messung:
-            yield "Pictures decoded during those levels", f"{messung['Bilder']:.0f}"
+    environment = os.environ | {"QT_QPA_PLATFORM": "offscreen"}
+    output = subprocess.check_output([program_path, "--benchmark_format=json"], env=environment)
+    for benchmark in json.loads(output)["benchmarks"]:
+        yield benchmark["name"], f"{benchmark['real_time']:.1f} {benchmark['time_unit']}"
+        if "Pictures" in benchmark:
+            yield "Pictures decoded during those levels", f"{benchmark['Pictures']:.0f}"
 
 
-def maschine():
-    prozessor = re.search(r"model name\s*: (.*)", Path("/proc/cpuinfo").read_text())[1]
+def machine():
+    processor = re.search(r"model name\s*: (.*)", Path("/proc/cpuinfo").read_text())[1]
     system = re.search(r'PRETTY_NAME="(.*)"', Path("/etc/os-release").read_text())[1]
     qt = subprocess.check_output(["qtpaths6", "--qt-version"], text=True).strip()
-    speicher_gb = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / 2**30
-    return (f"{os.cpu_count()} cores of {prozessor}, {speicher_gb:.0f} GB, {system}, Linux "
+    memory_gb = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / 2**30
+    return (f"{os.cpu_count()} cores of {processor}, {memory_gb:.0f} GB, {system}, Linux "
             f"{platform.release()}, Qt {qt}, Xvfb 1280x1024; load average at the end "
             f"{os.getloadavg()[0]:.1f}; {time.strftime('%Y-%m-%d')}")
 
 
-def main(bau, ergebnis):
-    spiel, leer = bau / "bin/glanzgrube", [bau / "bin/leeres_fenster", bau / "bilder/spielfeld.jpg"]
-    uhr = Stopwatch()
-    zeilen = [*regelzeilen(bau / "bin/bench_regeln"), *startzeilen(uhr.screen, spiel, leer),
-              *spielzeilen(spiel, uhr)]
-    tabelle = "".join(f"| {was} | {wert} |\n" for was, wert in zeilen)
-    text = f"Machine: {maschine()}.\n\n| What | Result |\n| --- | ---: |\n{tabelle}\n"
-    ergebnis.write_text(TABELLE.sub(lambda _: text, ergebnis.read_text()))
+def main(build, result):
+    game, bare = build / "bin/glanzgrube", [build / "bin/bare_window", build / "bilder/spielfeld.jpg"]
+    stopwatch = Stopwatch()
+    rows = [*rule_rows(build / "bin/bench_rules"), *start_rows(stopwatch.screen, game, bare),
+            *play_rows(game, stopwatch)]
+    table = "".join(f"| {what} | {value} |\n" for what, value in rows)
+    text = f"Machine: {machine()}.\n\n| What | Result |\n| --- | ---: |\n{table}\n"
+    result.write_text(TABLE.sub(lambda _: text, result.read_text()))
 
 
 if __name__ == "__main__":

@@ -4,11 +4,11 @@
 #include <QLabel>
 
 int main(int argc, char *argv[]) {
-  QApplication anwendung(argc, argv);
-  QLabel fenster;
-  fenster.setPixmap(QPixmap(argv[1]));
-  fenster.setFixedSize(878, 729);
-  fenster.setWindowTitle("leeres Fenster");
-  fenster.show();
+  QApplication application(argc, argv);
+  QLabel window;
+  window.setPixmap(QPixmap(argv[1]));
+  window.setFixedSize(878, 729);
+  window.setWindowTitle("bare window");
+  window.show();
   return QApplication::exec();
 }
