@@ -17,10 +17,6 @@ struct Wahlart {
   const char *tooltipWahl;  ///< Of the selected picture.
 };
 
-/// The choice of the mode, in the main window and in the options window.
-inline constexpr Wahlart kModuswahl{"imgModus", "modus", 1, "Spielmodus wählen",
-                                    "Aktueller Spielmodus"};
-
 /// A group of options of which at most one is selected, like radio buttons. Each option has two
 /// pictures at the same place, of which one is visible: a normal one that takes a click, and one
 /// for the selected option.

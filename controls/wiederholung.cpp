@@ -50,7 +50,7 @@ const Taste &Beurteile(const QKeyEvent &druck) {
 }  // namespace
 
 bool IstWiederholung(const QKeyEvent &taste) {
-  return Beurteile(taste).wiederholt;
+  return tasten[taste.key()].wiederholt;  // The event filter has judged it.
 }
 
 bool Tastenwache::eventFilter(QObject *, QEvent *ereignis) {

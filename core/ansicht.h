@@ -13,7 +13,7 @@ enum class Bedienung {
   imgSpeichern,  ///< Its menu entry is enabled and disabled with it.
   imgOeffnen,    ///< The same.
   imgBester,
-  imgWeiter,  ///< Always visible: showing it has no effect, and an empty picture hides the arrow.
+  imgWeiter,  ///< Never hidden: its arrow goes when it shows no picture.
 };
 
 /// The two blinking arrows. Each has its own timer.
@@ -36,9 +36,6 @@ enum class Panelreihe {
 enum class Ziffernfarbe { Gruen, Rot };
 inline constexpr int kLeereZiffer = 10;  ///< The digit picture with all segments unlit.
 
-/// Colours of the text in `lblModus`.
-enum class Textfarbe { Dunkelblau, Blau };
-
 /// The screen as the rules see it. The main window implements it, and so do the tests. The rules
 /// read back the tiles, which clue places are empty, and which buttons are visible.
 class Ansicht {
@@ -57,7 +54,8 @@ class Ansicht {
   /// @param stelle   0 is the units place, @param ziffer 0 to 9, or `kLeereZiffer`.
   virtual void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) = 0;
   virtual void SetzeModustext(const std::string &text) = 0;
-  virtual void SetzeModusfarbe(Textfarbe farbe) = 0;
+  /// Makes the text of `lblModus` blue. Nothing makes it dark blue again.
+  virtual void FaerbeModustext() = 0;
 
   // Buttons and arrows.
   virtual bool IstSichtbar(Bedienung bedienung) const = 0;
@@ -78,6 +76,7 @@ class Ansicht {
   virtual void Melde(const Meldung &meldung) = 0;
   /// Stores the answer in `spiel.Antwort`. @return true if it is yes.
   virtual bool Frage(const Meldung &meldung) = 0;
+  /// A step of persistence/modBeste, which the rules do not see.
   virtual void BestenlistePruefen() = 0;
   /// Lets the player name the new entry. Returns when the window has closed.
   virtual void ZeigeBesteneintrag() = 0;

@@ -24,7 +24,6 @@ std::int16_t NaechstePhase(std::int16_t phase) {
 
 void WarteAufSpiel(Ansicht &ansicht) {
   LeerePanel(ansicht);
-  spiel.AnzahlSaranten = 75;
   ZeigeStatus(ansicht);
   ansicht.ZeigePfeil(Pfeil::Start, spiel.StartBlinkphase);
   ansicht.StartePfeil(Pfeil::Start, kBlinkenStart);
@@ -38,7 +37,7 @@ void imgNeuesSpiel_Click(Ansicht &ansicht) {
   RaeumeLevelende(ansicht);
   ansicht.SetzeModustext(Moduszeile(2));
   SpielBeginnen(ansicht);
-  ZeigeStatus(ansicht);
+  ZeigeStatus(ansicht);  // Nobody sees this step.
 }
 
 void imgNextLevel_Click(Ansicht &ansicht) {
@@ -58,7 +57,7 @@ void cmdWiederholen_Click(Ansicht &ansicht) {
   ansicht.Zeige(Bedienung::cmdWiederholen, false);
   ansicht.StoppePfeil(Pfeil::Weiter);
   BerechneZahlen(ansicht);
-  ZeigeStatus(ansicht);
+  ZeigeStatus(ansicht);  // Nobody sees this step.
   for (int zelle = 1; zelle <= kZellen; ++zelle)
     ansicht.SetzeKachel(zelle, Kachel::Verdeckt);
   MarkiereFreiesFeld(ansicht);
@@ -97,5 +96,4 @@ void SpielAbLevelBeginnen(Ansicht &ansicht, int uebersprungen, int modus) {
   RaeumeLevelende(ansicht);
   LevelBeginnen(ansicht);
   BerechneZahlen(ansicht);
-  ZeigeStatus(ansicht);
 }

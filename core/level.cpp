@@ -21,9 +21,9 @@ const std::map<int, std::array<std::int16_t, kModi>> kStartfelder{{20, {8, 6, 0}
 const std::map<int, std::int16_t> kFreifelder{{3, 2},  {8, 4},   {13, 6},
                                               {18, 8}, {30, 10}, {kLetztesLevel, 12}};
 
-template <class Stufen>
-const auto &StufeFuer(const Stufen &stufen, int level) {
-  return stufen.lower_bound(std::min(level, kLetztesLevel))->second;
+template <class Bereiche>
+const auto &BereichMit(int level, const Bereiche &bereiche) {
+  return bereiche.lower_bound(std::min(level, kLetztesLevel))->second;
 }
 
 std::int16_t ZufaelligeZelle(int von, int bis) {
@@ -64,18 +64,18 @@ void SpielZuEnde(Ansicht &ansicht) {
 std::int16_t StartfelderFuer(int level, int modus) {
   if (modus == kModusExperte && level > 5 && level <= 20)
     return static_cast<std::int16_t>(level - 5);
-  return Element(StufeFuer(kStartfelder, level), modus - 1);
+  return Element(BereichMit(level, kStartfelder), modus - 1);
 }
 
 std::int16_t FreifelderFuer(int level) {
-  return StufeFuer(kFreifelder, level);
+  return BereichMit(level, kFreifelder);
 }
 
 void SpielBeginnen(Ansicht &ansicht) {
   spiel.Punkte = kStartpunkte;
-  spiel.Levelpunkte = 0;
+  spiel.Levelpunkte = 0;  // Nobody sees this step, nor the one before LevelBeginnen().
   spiel.Level = 0;
-  spiel.AnzahlSaranten = 75;
+  spiel.AnzahlSaranten = SarantenFuer(1);
   LevelBeginnen(ansicht);
   BerechneZahlen(ansicht);
 }
@@ -93,9 +93,10 @@ void LevelBeginnen(Ansicht &ansicht) {
     return;
   }
   spiel.Startfelder = StartfelderFuer(spiel.Level, spiel.Spielmodus);
-  spiel.AnzahlSaranten = static_cast<std::int16_t>(76 - spiel.Level);
-  ansicht.SetzeModusfarbe(Textfarbe::Blau);
+  spiel.AnzahlSaranten = SarantenFuer(spiel.Level);
+  ansicht.FaerbeModustext();
   FuelleBrett();
+  // Nobody sees these two steps, nor the last one.
   LeereLevelpunkte(ansicht);
   ansicht.Zeige(Bedienung::imgSpeichern, false);
   ExternerKlick(ansicht);
@@ -122,7 +123,7 @@ void ExternerKlick(Ansicht &ansicht) {
     imgSar_MouseDown(ansicht, zelle, kLinkeTaste);
   }
   ZugAuswerten(ansicht);
-  ZeigeStatus(ansicht);
+  ZeigeStatus(ansicht);  // Nobody sees this step.
 }
 
 void MarkiereFreiesFeld(Ansicht &ansicht) {
@@ -140,7 +141,7 @@ void MarkiereFreiesFeld(Ansicht &ansicht) {
 }
 
 void RaeumeLevelende(Ansicht &ansicht) {
-  spiel.Fehler = 0;
+  spiel.Fehler = 0;  // Nobody sees this step: LevelBeginnen() does it, too.
   spiel.Levelpunkte = 0;
   for (const Bedienung bedienung :
        {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern})

@@ -2,13 +2,15 @@
 
 #include "core/spiel.h"
 
+// Misspellings are kept on purpose: players know these texts.
+
 const std::string &Versionstext() {
   static const std::string text = "Glanzgrube  Vers.: " GLANZGRUBE_VERSION;
   return text;
 }
 
 const char *const kWaehleModus =
-    "Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\"";  // The quote is part of it.
+    "Wählen Sie einen Spielmodus ! Klicken Sie auf neues Spiel.\"";  // With its quote.
 const char *const kKlickNaechsterLevel = "Klicken Sie auf »Nächster Level«";
 const char *const kKlickWiederholen = "Klicken Sie auf »Wiederholen«";
 

@@ -13,12 +13,20 @@ inline constexpr int kLetztesLevel = 40;   ///< The game ends when this level is
 inline constexpr int kStartpunkte = 500;   ///< Points of a new game at level 1.
 inline constexpr int kErlaubteFehler = 1;  ///< One more wrong cell loses the level.
 inline constexpr int kModi = 3;            ///< Modes, numbered from 1.
+constexpr bool IstModus(int modus) {       // A file can hold any number.
+  return modus >= 1 && modus <= kModi;
+}
 inline constexpr std::int16_t kModusNormal = 2;
 inline constexpr std::int16_t kModusExperte = 3;
 inline constexpr int kBeste = 5;  ///< Entries of the best list, numbered from 0, best first.
 
 /// The tile that a cell shows. The state of play of a cell is stored nowhere else.
 enum class Kachel { Verdeckt, Markiert, Fehler, Sarant };
+
+/// Gems of a level.
+constexpr std::int16_t SarantenFuer(int level) {
+  return static_cast<std::int16_t>(76 - level);
+}
 
 /// An element of an array or vector by a signed index or an enumerator. Checks the bounds.
 template <typename Reihe, typename Index>
@@ -41,19 +49,19 @@ struct Bestenliste {
 };
 
 /// The game record: all state of the game except the tiles of the cells. A new `Spiel` is the state
-/// at the start of the process.
+/// at the start of the process. Counters of 16 bits and numbers as text are kept on purpose.
 struct Spiel {
-  std::int16_t Level = 0;            ///< Current level, 1 to 40; 0 before the first.
-  std::int32_t Punkte = 0;           ///< Total points. Not 0 counts as a running game.
-  std::int32_t Levelpunkte = 0;      ///< Result of the level, not yet added to `Punkte`.
-  std::int16_t Fehler = 0;           ///< Cells that show `Kachel::Fehler`; recounted at each move.
-  std::int16_t SarantenRest = 0;     ///< Gems not yet opened. A move that leaves 0 wins the level.
-  std::int16_t AnzahlSaranten = 75;  ///< Gems of the level: 76 - `Level`; 75 before the first.
-  std::int16_t Startfelder = 0;      ///< Gems that are opened for the player when a level begins.
+  std::int16_t Level = 0;         ///< Current level, 1 to 40; 0 before the first.
+  std::int32_t Punkte = 0;        ///< Total points. Not 0 counts as a running game.
+  std::int32_t Levelpunkte = 0;   ///< Result of the level, not yet added to `Punkte`.
+  std::int16_t Fehler = 0;        ///< Cells that show `Kachel::Fehler`; recounted at each move.
+  std::int16_t SarantenRest = 0;  ///< Gems not yet opened. A move that leaves 0 wins the level.
+  std::int16_t AnzahlSaranten = SarantenFuer(1);  ///< Gems of the level.
+  std::int16_t Startfelder = 0;  ///< Gems that are opened for the player when a level begins.
   std::int16_t Spielmodus = kModusNormal;
 
   std::array<Zelle, kZellen + 1> Feld{};  ///< The board. Index 0 is unused; see ZelleVon().
-  /// Gem cells in the order of their draw, from index 1. Never read.
+  /// Gem cells in the order of their draw, from index 1. Never read; kept on purpose.
   std::array<std::int16_t, kZellen + 1> SarantenListe{};
   std::vector<std::string> lstWiederHolen;  ///< The same cells as decimal text, from index 0.
 

@@ -34,9 +34,9 @@ void BerechneZahlen(Ansicht &ansicht) {
     ansicht.SetzeZahl(platz, 0);
   }
   for (int spalte = 1; spalte <= kLinie; ++spalte)
-    ZaehleLinie(ansicht, {90 + spalte, -10, kPlaetzeJeLinie * (spalte - 1) + 1});
+    ZaehleLinie(ansicht, {kZellen - kLinie + spalte, -kLinie, PlatzVon(true, spalte, 1)});
   for (int zeile = 1; zeile <= kLinie; ++zeile)
-    ZaehleLinie(ansicht, {10 * zeile, -1, 50 + kPlaetzeJeLinie * (zeile - 1) + 1});
+    ZaehleLinie(ansicht, {kLinie * zeile, -1, PlatzVon(false, zeile, 1)});
   for (int platz = 1; platz <= kZahlfelder; ++platz) {
     if (ansicht.IstZahlNull(platz))
       ansicht.ZeigeZahlfeld(platz, false);

@@ -23,7 +23,7 @@ void LevelGewonnen(Ansicht &ansicht) {
   ansicht.Zeige(Bedienung::imgSpeichern, true);
   ansicht.SpieleSound(kSoundTada);
   ansicht.StartePfeil(Pfeil::Weiter, kBlinkenGewonnen);
-  ansicht.Zeige(Bedienung::imgWeiter, true);
+  ansicht.Zeige(Bedienung::imgWeiter, true);  // Nobody sees this step.
   ansicht.SetzeModustext(kKlickNaechsterLevel);
 }
 

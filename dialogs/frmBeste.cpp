@@ -78,10 +78,9 @@ frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
   (new Bild(this, kEnde))->SetzeKlick([this] { cmdEnde_Click(); });
   // Never disabled: a disabled shortcut would type an "a" into the name.
   new QShortcut(Qt::ALT | Qt::Key_A, this, [this] {
-    if (cmdClearSichtbar_)
+    if (altAWirkt_)
       cmdClear_Click();
   });
-  BestenlisteLaden(ansicht_);
 }
 
 void frmBeste::ZeigeZumLesen() {
@@ -130,7 +129,7 @@ void frmBeste::Form_Activate() {
   }
   EingabeSperren();
   if (beste.BestenEintrag) {
-    cmdClearSichtbar_ = false;
+    altAWirkt_ = false;
     QLineEdit *eingabe = Element(txtSpieler_, beste.BestenPlatz);
     eingabe->setReadOnly(false);
     eingabe->setFocusPolicy(Qt::StrongFocus);

@@ -15,7 +15,7 @@ class frmBeste : public Bildfenster {
   Q_OBJECT
 
  public:
-  /// Reads the best list from its file. The close button deletes the window.
+  /// The close button deletes the window.
   frmBeste(QWidget *hauptfenster, Ansicht &ansicht);
 
   /// Shows the list without blocking the game and returns at once.
@@ -45,5 +45,5 @@ class frmBeste : public Bildfenster {
   std::array<QLineEdit *, kBeste> txtSpieler_{};
   std::array<Zifferreihe *, kBeste> imgDiggi_{};
   Bild *lblClear_;
-  bool cmdClearSichtbar_ = true;  ///< Alt+A works. False after an entry.
+  bool altAWirkt_ = true;  ///< Alt+A clears the list. False after an entry.
 };

@@ -50,10 +50,10 @@ frmOptionen::frmOptionen(QWidget *hauptfenster, Ansicht &ansicht)
       ansicht_(ansicht),
       imgLevel_(this, kStufen, kStufeneintraege, [this](int stufe) { imgLevel_Click(stufe); }),
       imgModus_(this, kModuswahl, kModuseintraege, [this](int modus) { imgModus_Click(modus); }),
-      ModusWahl(spiel.Spielmodus),
-      SoundWahl(spiel.SoundAn),
-      ModusVorher(spiel.Spielmodus) {
-  setWindowTitle("Form1");
+      ModusWahl_(spiel.Spielmodus),
+      SoundWahl_(spiel.SoundAn),
+      ModusVorher_(spiel.Spielmodus) {
+  setWindowTitle("Form1");  // Kept on purpose.
   for (const Texteintrag &eintrag : kTexte)
     new Beschriftung(this, eintrag);
   NeueLinie(this, kTrennlinie, 2, kBlau);
@@ -68,18 +68,18 @@ frmOptionen::frmOptionen(QWidget *hauptfenster, Ansicht &ansicht)
 
   ZeigeSound();
   connect(&DasSoundgeraet(), &Soundgeraet::Gewechselt, this, &frmOptionen::ZeigeSound);
-  imgModus_.Waehle(ModusWahl);
-  imgLevel_.Waehle(LevelWahl);
+  imgModus_.Waehle(ModusWahl_);
+  imgLevel_.Waehle(LevelWahl_);
 }
 
 void frmOptionen::imgLevel_Click(int stufe) {
   imgLevel_.Waehle(stufe);
-  LevelWahl = stufe;
+  LevelWahl_ = stufe;
 }
 
 void frmOptionen::imgModus_Click(int modus) {
   imgModus_.Waehle(modus);
-  ModusWahl = modus;
+  ModusWahl_ = modus;
 }
 
 void frmOptionen::imgSound_Click(bool an) {
@@ -87,23 +87,23 @@ void frmOptionen::imgSound_Click(bool an) {
     ansicht_.Melde(MeldungKeineSoundkarte);
     return;
   }
-  SoundWahl = an;
+  SoundWahl_ = an;
   ZeigeSound();
 }
 
 void frmOptionen::cmdNehmen_Click() {
-  spiel.SoundAn = SoundWahl;  // Needs no confirmation.
-  const int uebersprungen = kLevelJeStufe * LevelWahl;
-  if (ansicht_.Frage(FrageAuswahl(uebersprungen + 1, ModusWahl))) {
-    SpielAbLevelBeginnen(ansicht_, uebersprungen, ModusWahl);
-    if (ModusVorher != ModusWahl)
+  spiel.SoundAn = SoundWahl_;  // Needs no confirmation.
+  const int uebersprungen = kLevelJeStufe * LevelWahl_;
+  if (ansicht_.Frage(FrageAuswahl(uebersprungen + 1, ModusWahl_))) {
+    SpielAbLevelBeginnen(ansicht_, uebersprungen, ModusWahl_);
+    if (ModusVorher_ != ModusWahl_)
       SchreibeIni();
   }
   close();
 }
 
 void frmOptionen::ZeigeSound() {
-  const bool an = SoundWahl && DasSoundgeraet().SoundGeraetDa();
+  const bool an = SoundWahl_ && DasSoundgeraet().SoundGeraetDa();
   imgSound_[0]->setVisible(!an);
   imgSound_[1]->setVisible(an);
 }

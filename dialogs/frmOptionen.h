@@ -8,6 +8,10 @@
 class Ansicht;
 class Bild;
 
+/// The choice of the mode, also in the main window.
+inline constexpr Wahlart kModuswahl{"imgModus", "modus", 1, "Spielmodus wählen",
+                                    "Aktueller Spielmodus"};
+
 /// The options window: first level and mode of a new game, and sound on or off.
 class frmOptionen : public Bildfenster {
   Q_OBJECT
@@ -28,8 +32,8 @@ class frmOptionen : public Bildfenster {
   Wahlgruppe imgLevel_;
   Wahlgruppe imgModus_;
   std::array<Bild *, 2> imgSound_{};
-  int LevelWahl = 0;
-  int ModusWahl;
-  bool SoundWahl;
-  const int ModusVorher;
+  int LevelWahl_ = 0;
+  int ModusWahl_;
+  bool SoundWahl_;
+  const int ModusVorher_;
 };

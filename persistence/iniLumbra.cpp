@@ -18,12 +18,9 @@ void SchreibeIni() {
 }
 
 void LeseIni(Ansicht &ansicht) {
-  const Textzeilen datei = LiesZeilen(IniPfad(), 1);
-  std::int16_t modus = kUngelesen;
-  const bool gelesen =
-      datei.Fehler == Dateifehler::Keiner && InZahl(datei.Zeilen[0], modus) == Dateifehler::Keiner;
-  const bool gueltig = modus == kUngelesen || IstModus(modus);
+  std::int16_t modus = 0;
+  InZahl(LiesZeilen(IniPfad(), 1).Zeilen.value(0), modus);
   spiel.Spielmodus = IstModus(modus) ? modus : kModusNormal;
-  if (gelesen && gueltig)
+  if (IstModus(modus) || modus == kUngelesen)
     ansicht.SetzeModustext(Moduszeile(3));
 }

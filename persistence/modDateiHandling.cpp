@@ -7,7 +7,6 @@
 #include "core/level.h"
 #include "core/zahlen.h"
 #include "core/zug.h"
-#include "persistence/iniLumbra.h"
 #include "persistence/modCdVersion.h"
 #include "persistence/textdatei.h"
 #include "platform/modOpenSave.h"

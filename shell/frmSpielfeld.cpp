@@ -8,9 +8,14 @@
 #include <functional>
 #include <optional>
 
+#include "controls/beschriftung.h"
 #include "controls/bilder.h"
+#include "controls/tastatur.h"
+#include "controls/wahlgruppe.h"
+#include "controls/zifferreihe.h"
 #include "core/befehle.h"
 #include "core/level.h"
+#include "dialogs/frmBeste.h"
 #include "dialogs/frmMsg.h"
 #include "dialogs/frmOptionen.h"
 #include "persistence/iniLumbra.h"
@@ -18,8 +23,10 @@
 #include "persistence/modCdVersion.h"
 #include "persistence/modDateiHandling.h"
 #include "platform/modOpenSave.h"
+#include "platform/modShellExecute.h"
 #include "platform/mod_MySound.h"
 #include "shell/menue.h"
+#include "shell/panel.h"
 
 namespace {
 
@@ -50,7 +57,7 @@ const std::pair<Pfeil, Bildeintrag> kPfeile[] = {
                      "Pfeil auf den Knopf", QAccessible::Graphic}},
 };
 
-const std::vector<Knopfeintrag> kKnoepfe{
+const std::vector<Knopfeintrag> kKnoepfe{  // imgNextLevel and cmdWiederholen: apart on purpose.
     {{"imgOeffnen", {1590, 300, 480, 480}, "spielLaden",
       "Vorhandene Spieledatei laden", "Spiel laden"}, &F::imgOeffnen_Click, B::imgOeffnen},
     {{"imgSpeichern", {2160, 300, 480, 480}, "spielSpeichern",
@@ -87,7 +94,7 @@ frmSpielfeld::frmSpielfeld() {
   KnoepfeAufbauen(flaeche);
   PfeileAufbauen(flaeche);
   panel_ = std::make_unique<Panel>(flaeche);
-  BaueMenue(*this);
+  menueintraege_ = BaueMenue(*this);
   tastatur_ = std::make_unique<Tastatur>(
       flaeche, Picture1_->Zellen(),
       [this](bool spalte, int linie) { return Picture1_->Linientext(spalte, linie); });
@@ -99,6 +106,8 @@ frmSpielfeld::frmSpielfeld() {
   Zentriere();
   BehalteGroesse(this);
 }
+
+frmSpielfeld::~frmSpielfeld() = default;
 
 void frmSpielfeld::Zentriere() {
   const QRect schirm = screen()->availableGeometry();
@@ -127,18 +136,38 @@ void frmSpielfeld::PfeileAufbauen(QWidget *flaeche) {
 
 frmBeste &frmSpielfeld::Bestenfenster() {
   if (!beste_) {
+    BestenlisteLaden(*this);  // Its window may have been closed without its last change.
     beste_ = new frmBeste(this, *this);
     connect(beste_, &frmBeste::Entladen, this, [this] { beste_ = nullptr; });
   }
   return *beste_;
 }
 
+void frmSpielfeld::SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) {
+  panel_->Reihe(reihe).SetzeZiffer(stelle, farbe, ziffer);
+}
+
+void frmSpielfeld::SetzeModustext(const std::string &text) {
+  lblModus_->ZeigeText(text);
+}
+
+void frmSpielfeld::FaerbeModustext() {
+  lblModus_->SetzeFarbe(kBlau);
+}
+
+void frmSpielfeld::ZeigeModuswahl() {
+  imgModus_->Waehle(spiel.Spielmodus);
+}
+
+void frmSpielfeld::VerbergeModuswahl() {
+  imgModus_->Verberge();
+}
+
 void frmSpielfeld::Zeige(Bedienung bedienung, bool sichtbar) {
   bedienungen_.at(bedienung)->setVisible(sichtbar);
-  if (bedienung == Bedienung::imgOeffnen)
-    findChild<QAction *>("mnuSpiel2")->setEnabled(sichtbar);
-  if (bedienung == Bedienung::imgSpeichern)
-    findChild<QAction *>("mnuSpiel3")->setEnabled(sichtbar);
+  const auto eintrag = menueintraege_.find(bedienung);
+  if (eintrag != menueintraege_.end())
+    eintrag->second->setEnabled(sichtbar);
 }
 
 void frmSpielfeld::ZeigePfeil(Pfeil pfeil, int phase) {
@@ -169,8 +198,12 @@ bool frmSpielfeld::Frage(const Meldung &meldung) {
 }
 
 void frmSpielfeld::BestenlistePruefen() {
-  Bestenfenster();  // Creating the window reads the list from the file.
+  Bestenfenster();
   ::BestenlistePruefen(*this);
+}
+
+void frmSpielfeld::ZeigeBesteneintrag() {
+  Bestenfenster().ZeigeZumEintragen();
 }
 
 void frmSpielfeld::BeendeDasSpiel() {
@@ -264,6 +297,10 @@ void frmSpielfeld::imgEinstellungen_Click() {
 void frmSpielfeld::imgBester_Click() {
   BestenlistePruefen();
   Zeige(Bedienung::imgBester, false);
+}
+
+void frmSpielfeld::lblAnleitung_Click() {
+  OeffneHilfe("saranten.pdf");
 }
 
 void frmSpielfeld::mnuInfo4_Click() {

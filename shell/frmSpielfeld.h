@@ -5,15 +5,14 @@
 #include <map>
 #include <memory>
 
-#include "controls/beschriftung.h"
-#include "controls/tastatur.h"
-#include "controls/wahlgruppe.h"
-#include "controls/zifferreihe.h"
 #include "core/ansicht.h"
-#include "dialogs/frmBeste.h"
-#include "platform/modShellExecute.h"
-#include "shell/panel.h"
 #include "shell/spielbrett.h"
+
+class Beschriftung;
+class Panel;
+class Tastatur;
+class Wahlgruppe;
+class frmBeste;
 
 /// The client area of the main window: 878 by 729 pixels at scale factor 1.
 inline constexpr Twips kClientflaeche{0, 0, 13170, 10935};
@@ -24,10 +23,11 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
 
  public:
   frmSpielfeld();
+  ~frmSpielfeld() override;
 
   /// Shows the current mode as selected.
-  void ZeigeModuswahl() { imgModus_->Waehle(spiel.Spielmodus); }
-  /// The window of the best list. It is created when it does not exist.
+  void ZeigeModuswahl();
+  /// The window of the best list. If it does not exist, the list is read and the window created.
   frmBeste &Bestenfenster();
 
   // Handlers of buttons and menu entries.
@@ -36,7 +36,7 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void imgModus_Click(int modus);
   void imgEinstellungen_Click();
   void imgBester_Click();
-  void lblAnleitung_Click() { OeffneHilfe("saranten.pdf"); }
+  void lblAnleitung_Click();
   void lblInfo_Click() { Melde(MeldungInfo); }
   void mnuInfo4_Click();
 
@@ -45,17 +45,13 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void SetzeZahl(int platz, int zahl) override { Picture1_->Platz(platz).SetzeZahl(zahl); }
   bool IstZahlNull(int platz) const override { return Picture1_->Platz(platz).LiesZahl() == 0; }
   void ZeigeZahlfeld(int platz, bool s) override { Picture1_->Platz(platz).setVisible(s); }
-  void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override {
-    panel_->Reihe(reihe).SetzeZiffer(stelle, farbe, ziffer);
-  }
-  void SetzeModustext(const std::string &text) override { lblModus_->ZeigeText(text); }
-  void SetzeModusfarbe(Textfarbe farbe) override {
-    lblModus_->SetzeFarbe(farbe == Textfarbe::Blau ? kBlau : kDunkelblau);
-  }
+  void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override;
+  void SetzeModustext(const std::string &text) override;
+  void FaerbeModustext() override;
   /// True even before the window is shown, unlike isVisible().
   bool IstSichtbar(Bedienung b) const override { return !bedienungen_.at(b)->isHidden(); }
   void Zeige(Bedienung bedienung, bool sichtbar) override;
-  void VerbergeModuswahl() override { imgModus_->Verberge(); }
+  void VerbergeModuswahl() override;
   void StartePfeil(Pfeil pfeil, int takt) override { timer_.at(pfeil).start(takt); }
   void ZeigePfeil(Pfeil pfeil, int phase) override;
   void StoppePfeil(Pfeil pfeil) override;
@@ -63,7 +59,7 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void Melde(const Meldung &meldung) override;
   bool Frage(const Meldung &meldung) override;
   void BestenlistePruefen() override;
-  void ZeigeBesteneintrag() override { Bestenfenster().ZeigeZumEintragen(); }
+  void ZeigeBesteneintrag() override;
   void BeendeDasSpiel() override;
 
  protected:
@@ -84,6 +80,7 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   Spielbrett *Picture1_ = nullptr;
   std::unique_ptr<Panel> panel_;
   std::map<Bedienung, Bild *> bedienungen_;
+  std::map<Bedienung, QAction *> menueintraege_;
   std::map<Pfeil, Bild *> pfeile_;
   std::map<Pfeil, QTimer> timer_;
   Beschriftung *lblModus_ = nullptr;

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "core/befehle.h"
@@ -17,6 +18,7 @@ struct Eintrag {
   const char *text = "";  ///< Empty for a separator.
   std::function<void(frmSpielfeld &)> tat = nullptr;
   QKeySequence tasten = QKeySequence::UnknownKey;
+  std::optional<Bedienung> knopf = std::nullopt;
 };
 
 struct Kopf {
@@ -34,9 +36,10 @@ std::vector<Kopf> Tabelle() {
       {"mnuMenue1",
        "&Spiel                     ",
        {{"mnuSpiel1", "Neues Spiel", imgNeuesSpiel_Click, Qt::CTRL | Qt::Key_N},
-        {"mnuSpiel2", "Spielstand laden...", &F::imgOeffnen_Click, Qt::CTRL | Qt::Key_O},
-        {"mnuSpiel3", "Spielstand speichern unter...", &F::imgSpeichern_Click,
-         Qt::CTRL | Qt::Key_S},
+        {"mnuSpiel2", "Spielstand laden...", &F::imgOeffnen_Click, Qt::CTRL | Qt::Key_O,
+         Bedienung::imgOeffnen},
+        {"mnuSpiel3", "Spielstand speichern unter...", &F::imgSpeichern_Click, Qt::CTRL | Qt::Key_S,
+         Bedienung::imgSpeichern},
         {"mnuSpiel4"},
         {"mnuSpiel5", "b&eenden", imgEnde_Click}}},
       {"mnuMenue2",
@@ -77,7 +80,8 @@ QAction *BaueSoundmenue(QMenu *menue) {
 
 }  // namespace
 
-void BaueMenue(frmSpielfeld &fenster) {
+std::map<Bedienung, QAction *> BaueMenue(frmSpielfeld &fenster) {
+  std::map<Bedienung, QAction *> mitKnopf;
   auto *eintraege = new QActionGroup(&fenster);
   eintraege->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
   for (const Kopf &kopf : Tabelle()) {
@@ -92,8 +96,11 @@ void BaueMenue(frmSpielfeld &fenster) {
       if (!eintrag.tat)
         continue;
       eintraege->addAction(aktion);
+      if (eintrag.knopf)
+        mitKnopf[*eintrag.knopf] = aktion;
       QObject::connect(aktion, &QAction::triggered, &fenster,
                        [&fenster, tat = eintrag.tat] { tat(fenster); });
     }
   }
+  return mitKnopf;
 }

@@ -13,7 +13,7 @@ struct Paneleintrag {
 };
 constexpr auto kTafel = QAccessible::Graphic;
 // clang-format off
-const Paneleintrag kPanel[] = {  // In the order of `Panelreihe`.
+const Paneleintrag kPanel[] = {  // In the order of `Panelreihe`, out of line on purpose.
     {{"Image1", {240, 3330, 2865, 630}, "tafelPunkte",
       "Punkte, die Sie in diesem Spiel haben", "Punkte", kTafel}, {1860, 3450}, 5},
     {{"Image6", {240, 4020, 2865, 630}, "tafelLevelpunkte",

@@ -53,9 +53,7 @@ class ArrayScreen : public Ansicht {
     digits[{reihe, -stelle}] = farbe == Ziffernfarbe::Rot ? "[" + sign + "]" : sign;
   }
   void SetzeModustext(const std::string &text) override { shown["text"] = text; }
-  void SetzeModusfarbe(Textfarbe f) override {
-    shown["colour"] = std::to_string(static_cast<int>(f));
-  }
+  void FaerbeModustext() override { shown["colour"] = "blue"; }
   bool IstSichtbar(Bedienung b) const override {
     return shown.contains(Name(b)) && shown.at(Name(b)) == "visible";
   }
