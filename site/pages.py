@@ -142,7 +142,7 @@ def check(release):
             print(f"Left out: the source {source}, which the licence asks for")
     if max(made) - min(made) > 2:  # A ZIP knows every other second.
         faults.append("The packages are of several commits.")
-    sys.exit("\n".join(faults))
+    sys.exit("\n".join(faults) or 0)
 
 
 if __name__ == "__main__":
