@@ -66,7 +66,7 @@ QPixmap Katalogbild(const QString &name, double geraetepixel) {
 
 void LadeSpielbilder(double geraetepixel) {
   constexpr std::pair<const char *, int> kReihen[] = {
-      {"pfeil", 2}, {"pfeilhoch", 2}, {"zahl", 11}, {"gruen", 11}, {"rot", 11}};
+      {"pfeil", 2}, {"pfeilhoch", 2}, {"zahl", 11}, {"gruen", 11}, {"rot", 11}, {"funke", 2}};
   for (const auto &[stamm, anzahl] : kReihen)
     for (int i = 0; i < anzahl; ++i)
       Katalogbild(Reihenbild(stamm, i), geraetepixel);

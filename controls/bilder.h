@@ -12,7 +12,8 @@
 /// @param geraetepixel   device pixel ratio. @return null if the name is empty.
 QPixmap Katalogbild(const QString &name, double geraetepixel);
 
-/// Decodes the pictures of tiles, numbers, digits and arrows before the first move needs them.
+/// Decodes the pictures of tiles, numbers, digits, arrows and glints before the first move needs
+/// them.
 void LadeSpielbilder(double geraetepixel);
 
 /// The number of pictures decoded since the start of the process.

@@ -100,6 +100,7 @@ frmSpielfeld::frmSpielfeld() {
       [this](bool spalte, int linie) { return Picture1_->Linientext(spalte, linie); });
   for (const B bedienung : {B::imgNextLevel, B::cmdWiederholen, B::imgSpeichern, B::imgBester})
     Zeige(bedienung, false);
+  Picture1_->Licht().Setze(Brettlicht::Stand::Warten);
 
   layout()->setSizeConstraint(QLayout::SetFixedSize);
   adjustSize();
@@ -165,6 +166,8 @@ void frmSpielfeld::VerbergeModuswahl() {
 
 void frmSpielfeld::Zeige(Bedienung bedienung, bool sichtbar) {
   bedienungen_.at(bedienung)->setVisible(sichtbar);
+  if (bedienung == Bedienung::imgNextLevel)
+    Picture1_->Licht().Setze(sichtbar ? Brettlicht::Stand::Gewonnen : Brettlicht::Stand::Spiel);
   const auto eintrag = menueintraege_.find(bedienung);
   if (eintrag != menueintraege_.end())
     eintrag->second->setEnabled(sichtbar);

@@ -1,9 +1,11 @@
 #include "shell/spielbrett.h"
 
+#include <QPainter>
 #include <QStringList>
 
 #include "controls/bilder.h"
 #include "core/zug.h"
+#include "palette.h"
 
 namespace {
 
@@ -15,8 +17,11 @@ const Bildeintrag kPicture1{"Picture1",  {3330, 210, 9645, 9705}, "", "",
 constexpr Twips kZelle{2370, 2370, 705, 705};
 constexpr Twips kSpaltenplatz{2520, 1800, 435, 465};
 constexpr Twips kZeilenplatz{1800, 2460, 435, 465};
+constexpr Twips kZellenfeld{2370, 2370, 7050, 7050};
 constexpr int kPlatzschrittHoch = 420;
 constexpr int kPlatzschrittLinks = 350;
+
+constexpr int kFunken = 9;
 
 int ZeileVon(int zelle) {
   return (zelle - 1) / kLinie + 1;
@@ -108,6 +113,46 @@ void Zahlenbild::Aktualisiere() {
                         .arg(zahl_));
 }
 
+Brettlicht::Brettlicht(Spielbrett *brett)
+    : Bild(brett, {"imgLicht", kZellenfeld, "", "", "", QAccessible::Graphic}), brett_(*brett) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Brettlicht::Setze(Stand stand) {
+  stand_ = stand;
+  stein_ = stand == Stand::Warten ? QPixmap(":/bilder/stein.png") : QPixmap();
+  update();
+}
+
+void Brettlicht::paintEvent(QPaintEvent *) {
+  QPainter maler(this);
+  maler.setRenderHint(QPainter::SmoothPixmapTransform);
+  if (stand_ == Stand::Warten)
+    maler.drawPixmap(rect(), stein_);
+  QLinearGradient abfall(rect().topLeft(), rect().bottomRight());
+  abfall.setColorAt(0, Qt::transparent);
+  abfall.setColorAt(1, QColor(kAbfall));
+  maler.fillRect(rect(), abfall);
+  if (stand_ == Stand::Gewonnen)
+    MaleGewonnen(maler);
+}
+
+void Brettlicht::MaleGewonnen(QPainter &maler) const {
+  int funken = 0;
+  for (int k = 0; k < kZellen; ++k) {
+    // Cells far from each other follow one another, so that the glints are scattered.
+    const Zellenbild &zelle = brett_.Zelle(23 * k % kZellen + 1);
+    const QRect ort = zelle.geometry().translated(-pos());
+    if (zelle.LiesKachel() != Kachel::Sarant) {
+      if (!zelle.hasFocus())  // The ring must stand out.
+        maler.fillRect(ort, QColor(kGewinnschatten));
+    } else if (funken++ < kFunken) {
+      const QString bild = "funke" + QString::number(funken % 2);
+      ZeichneGenau(maler, ort.topLeft(), Katalogbild(bild, devicePixelRatioF()));
+    }
+  }
+}
+
 Spielbrett::Spielbrett(QWidget *eltern, Ansicht &ansicht) : Bild(eltern, kPicture1) {
   for (int n = 1; n <= kZellen; ++n) {
     auto *zelle = new Zellenbild(this, n);
@@ -118,6 +163,7 @@ Spielbrett::Spielbrett(QWidget *eltern, Ansicht &ansicht) : Bild(eltern, kPictur
   }
   for (int n = 1; n <= kZahlfelder; ++n)
     Element(imgDiggi_, n) = new Zahlenbild(this, n);
+  licht_ = new Brettlicht(this);
 }
 
 QString Spielbrett::Linientext(bool spalte, int linie) const {

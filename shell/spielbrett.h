@@ -42,6 +42,35 @@ class Zahlenbild : public Bild {
   int zahl_ = 0;
 };
 
+class Spielbrett;
+
+/// The light over the cells, which falls off towards the lower right. Mouse and screen reader do
+/// not see it.
+class Brettlicht : public Bild {
+  Q_OBJECT
+
+ public:
+  enum class Stand {
+    Warten,    ///< A great stone shows through the plates.
+    Spiel,     ///< Nothing but the light.
+    Gewonnen,  ///< All but the gems lies in shadow, and some gems glint.
+  };
+
+  explicit Brettlicht(Spielbrett *brett);
+
+  void Setze(Stand stand);
+
+ protected:
+  void paintEvent(QPaintEvent *ereignis) override;
+
+ private:
+  void MaleGewonnen(QPainter &maler) const;
+
+  const Spielbrett &brett_;
+  Stand stand_ = Stand::Spiel;
+  QPixmap stein_;  ///< Null but while waiting.
+};
+
 /// The board: the cells and the clue places. Passes every press on a cell to the rules.
 class Spielbrett : public Bild {
   Q_OBJECT
@@ -55,6 +84,7 @@ class Spielbrett : public Bild {
   /// @param nummer   1 to 100.
   Zahlenbild &Platz(int nummer) const { return *Element(imgDiggi_, nummer); }
 
+  Brettlicht &Licht() const { return *licht_; }
   /// The cells, row by row.
   QList<QWidget *> Zellen() const { return {imgSar_.begin() + 1, imgSar_.end()}; }
   /// Reads the visible numbers of a line to a screen reader, from the left or from the top.
@@ -64,4 +94,5 @@ class Spielbrett : public Bild {
  private:
   std::array<Zellenbild *, kZellen + 1> imgSar_{};        ///< Index 0 is unused.
   std::array<Zahlenbild *, kZahlfelder + 1> imgDiggi_{};  ///< Index 0 is unused.
+  Brettlicht *licht_;
 };

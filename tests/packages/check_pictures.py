@@ -37,8 +37,23 @@ for pattern, name, least, *part in TEXTS:
         seen = numpy.quantile(contrast[contrast > 1.3], 0.3)
         if seen < float(least):
             sys.exit(f"{file.name}: {name} has {seen:.2f}:1, not {least}:1")
-# What is covered is lighter than what is marked, than a gem, than an error; only the gem is colourful.
-tiles = [pixels(FOLDER / f"{name}.png") / 255 for name in ("platte1", "platte2", "sarant", "platte0")]
-light, chroma, _ = zip(*(cspace_convert(tile, "sRGB1", "CIELCh").mean(axis=(0, 1)) for tile in tiles))
-if min(numpy.subtract(light[:3], light[1:])) < 3 or max(chroma[:2]) > 8 or chroma[2] < 2 * chroma[3]:
-    sys.exit(f"tiles: light {light}, chroma {chroma}")
+# What is covered is lighter than what is marked, than a gem, than an error, at both ends of the light; only the gem is
+# colourful. In the shadow of a won board the gem is lightest.
+FALL, SHADOW = (int(part, 16) / 255 for part in
+                re.findall('"#(..){', (SOURCES / "assets/bilder/palette.h.j2").read_text()))
+
+
+def seen(part):
+    """Lightness and chroma of the tiles when a part of the light is lost."""
+    tiles = [pixels(FOLDER / f"{name}.png") * (1 - part) + numpy.multiply(COLOURS["SCHATTEN"], part)
+             for name in ("platte1", "platte2", "sarant", "platte0")]
+    return list(zip(*(cspace_convert(tile, "sRGB255", "CIELCh").mean(axis=(0, 1)) for tile in tiles)))[:2]
+
+
+for light, chroma in seen(0), seen(FALL):
+    if min(numpy.subtract(light[:3], light[1:])) < 3 or max(chroma[:2]) > 8 or chroma[2] < 2 * chroma[3]:
+        sys.exit(f"tiles: light {light}, chroma {chroma}")
+for part in 0, FALL:
+    gem, others = seen(part)[0][2], seen(part + SHADOW - part * SHADOW)[0]
+    if gem - max(others[0], others[1], others[3]) < 8:
+        sys.exit(f"won: a gem has a lightness of {gem}, the others {others}")

@@ -103,7 +103,7 @@ TEST_F(Screens, AllStandsAsTheInventoryTells) {
     lines << ""
           << "»" + window.window()->windowTitle() + "« " + Describe(window);
     for (QWidget *element : window.findChildren<QWidget *>()) {
-      static const QRegularExpression many("^img(Sar|Diggi)(\\d+)$");
+      static const QRegularExpression many("^img(Sar|Diggi|Licht)(\\d*)$");
       const auto number = many.match(element->objectName());
       if (!number.hasMatch() || number.captured(2).toInt() % 33 == 1)  // Four stand for all.
         lines << Describe(*element);
@@ -145,6 +145,24 @@ TEST_F(Screens, EverythingFitsAtEachScale) {
     SCOPED_TRACE(scale);
     StelleMassstab(scale);
     EachWindow(Messages(), ExpectAllFits);
+  }
+}
+
+TEST_F(WindowFixture, AGreatStoneWaitsUnderThePlatesAndAWonBoardLiesInShadow) {
+  const auto Middle = [&](int cell) {  // As it is seen under the light.
+    const Bild &tile = *Find(*board, "imgSar" + QString::number(cell));
+    return tile.parentWidget()->grab(tile.geometry()).toImage().pixelColor(30, 30);
+  };
+  EXPECT_GT(Middle(46).hslSaturation(), 60);
+  for (const char *button : {"imgNeuesSpiel", "imgNextLevel"}) {
+    Click(button);
+    for (const int cell : {1, 46, 100})
+      board->SetzeKachel(cell, Kachel::Verdeckt);
+    EXPECT_LT(Middle(46).hslSaturation(), 40);
+    EXPECT_GT(Middle(1).lightness(), Middle(100).lightness() + 20);
+    EXPECT_GT(Middle(100).lightness(), 120);
+    board->Zeige(Bedienung::imgNextLevel, true);
+    EXPECT_LT(Middle(1).lightness(), 110);
   }
 }
 
