@@ -75,6 +75,13 @@ void Bild::SetzeKlick(std::function<void()> klick) {
   setCursor(Handzeiger());
 }
 
+void Bild::Ersetze(Bild *anderes) {
+  show();
+  if (anderes->hasFocus())
+    setFocus();
+  anderes->hide();
+}
+
 void Bild::Bediene(Qt::MouseButton taste) {
   if (!IstErreichbar())
     return;

@@ -56,6 +56,9 @@ class Bild : public QWidget {
   bool IstGewaehlt() const { return gewaehlt_; }
   void SetzeGewaehlt(bool gewaehlt) { gewaehlt_ = gewaehlt; }
 
+  /// Shows the control in place of another one, from which it takes the focus.
+  void Ersetze(Bild *anderes);
+
   /// Presses and releases a mouse button on the control, for keyboard and assistive technology.
   /// Does nothing if a mouse could not: the control is hidden or disabled, or a modal window or a
   /// menu is open.

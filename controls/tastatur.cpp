@@ -5,7 +5,7 @@
 #include <map>
 
 #include "controls/bild.h"
-#include "controls/zifferreihe.h"
+#include "controls/zugang.h"
 #include "core/spiel.h"
 
 void ErlaubeTab(QWidget *fenster) {
@@ -15,19 +15,15 @@ void ErlaubeTab(QWidget *fenster) {
   }
 }
 
-Tastatur::Tastatur(QWidget *flaeche, QList<QWidget *> zellen,
-                   std::function<QString(bool, int)> zahlen)
-    : flaeche_(flaeche), zellen_(std::move(zellen)), zahlen_(std::move(zahlen)) {}
+Tastatur::Tastatur(const Bereiche &bereiche, std::function<QString(bool, int)> zahlen)
+    : bereiche_(bereiche), zahlen_(std::move(zahlen)) {}
 
 QList<QWidget *> Tastatur::Elemente() const {
-  if (bereich_ == kFeld)
-    return zellen_;
-  QList<QWidget *> elemente = flaeche_->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
-  elemente.removeIf([this](const QWidget *element) {
+  const QWidget *bereich = Element(bereiche_, bereich_);
+  QList<QWidget *> elemente = bereich->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+  elemente.removeIf([](const QWidget *element) {
     const auto *bild = qobject_cast<const Bild *>(element);
-    const bool passt = bereich_ == kKnoepfe ? bild && bild->IstBedienbar()
-                                            : qobject_cast<const Zifferreihe *>(element) != nullptr;
-    return !passt || element->isHidden();
+    return element->isHidden() || (bild && !bild->IstBedienbar());
   });
   std::ranges::sort(elemente, {}, [](const QWidget *e) { return std::pair(e->y(), e->x()); });
   return elemente;
@@ -42,11 +38,11 @@ bool Tastatur::WechsleBereich(bool vorwaerts) {
   if (!QAccessible::isActive())
     return false;
   Aktuelles()->setAccessibleDescription({});
-  const QWidget *fokus = flaeche_->window()->focusWidget();
+  const QWidget *fokus = Aktuelles()->window()->focusWidget();
   if (fokus && fokus->isHidden())
     Element(stelle_, bereich_) = 0;
   else
-    bereich_ = (bereich_ + (vorwaerts ? 1 : kBereiche - 1)) % kBereiche;
+    bereich_ = (bereich_ + (vorwaerts ? 1 : kAnzahl - 1)) % kAnzahl;
   Aktuelles()->setFocus();
   return true;
 }
@@ -67,10 +63,12 @@ void Tastatur::LiesZahlen(bool spalte) const {
   const int zelle = static_cast<int>(stelle_.at(kFeld));
   const int linie = (spalte ? zelle % kLinie : zelle / kLinie) + 1;
   Aktuelles()->setAccessibleDescription(zahlen_(spalte, linie));
+  SageAn(Aktuelles(), Aktuelles()->accessibleDescription());
 }
 
 bool Tastatur::Druecke(const QKeyEvent &taste) {
-  if (!QAccessible::isActive() || !flaeche_->isAncestorOf(flaeche_->window()->focusWidget()))
+  const QWidget *flaeche = bereiche_.front()->parentWidget();
+  if (!QAccessible::isActive() || !flaeche->isAncestorOf(flaeche->window()->focusWidget()))
     return false;
   Aktuelles()->setAccessibleDescription({});  // Removes the numbers that were read last.
   if (taste.modifiers() & (Qt::ControlModifier | Qt::AltModifier))

@@ -15,10 +15,11 @@ void ErlaubeTab(QWidget *fenster);
 /// board, Z and S read the numbers of the row and of the column.
 class Tastatur {
  public:
-  /// @param flaeche   parent of the buttons and of the panel rows, @param zellen row by row.
+  using Bereiche = std::array<QWidget *, 3>;
+
+  /// @param bereiche   the parents of the buttons, of the cells and of the panel rows.
   /// @param zahlen    returns the numbers of a line, from the left or from the top. Lines: 1 to 10.
-  Tastatur(QWidget *flaeche, QList<QWidget *> zellen,
-           std::function<QString(bool spalte, int linie)> zahlen);
+  Tastatur(const Bereiche &bereiche, std::function<QString(bool spalte, int linie)> zahlen);
 
   /// Moves the focus to the next or the previous area. Qt also calls this when the focused control
   /// is hidden; then the focus goes to the first element of the same area.
@@ -28,16 +29,15 @@ class Tastatur {
   bool Druecke(const QKeyEvent &taste);
 
  private:
-  enum Bereich { kKnoepfe, kFeld, kPanel, kBereiche };
+  enum Bereich { kKnoepfe, kFeld, kPanel, kAnzahl };
 
   QList<QWidget *> Elemente() const;
   void Bewege(int schritt);
   void LiesZahlen(bool spalte) const;
   QWidget *Aktuelles() const;
 
-  QWidget *flaeche_;
-  QList<QWidget *> zellen_;
+  Bereiche bereiche_;
   std::function<QString(bool, int)> zahlen_;
-  int bereich_ = kPanel;                       ///< The first Tab moves to the buttons.
-  std::array<qsizetype, kBereiche> stelle_{};  ///< Index of the current element of each area.
+  int bereich_ = kPanel;                     ///< The first Tab moves to the buttons.
+  std::array<qsizetype, kAnzahl> stelle_{};  ///< Index of the current element of each area.
 };

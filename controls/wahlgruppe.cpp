@@ -24,9 +24,8 @@ Wahlgruppe::Wahlgruppe(QWidget *eltern, const Wahlart &art,
 
 void Wahlgruppe::Waehle(int index) {
   for (int i = ersterIndex_; const Paar &paar : paare_) {
-    paar.normal->setVisible(i != index);
-    paar.gewaehlt->setVisible(i == index);
-    ++i;
+    Bild *gezeigt = i++ == index ? paar.gewaehlt : paar.normal;
+    gezeigt->Ersetze(gezeigt == paar.normal ? paar.gewaehlt : paar.normal);
   }
 }
 

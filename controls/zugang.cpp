@@ -2,17 +2,12 @@
 
 #include <QAccessibleWidget>
 #include <QTimer>
+#include <chrono>
 
 #include "controls/bild.h"
 #include "controls/zifferreihe.h"
 
 namespace {
-
-/// True for an arrow without a picture, which is visible for Qt only.
-bool IstLeer(const QWidget *element) {
-  const auto *bild = qobject_cast<const Bild *>(element);
-  return bild && bild->Rolle() == QAccessible::Graphic && bild->Bildname().isEmpty();
-}
 
 /// Presents a control without its hidden children.
 class Zugang : public QAccessibleWidget {
@@ -32,8 +27,10 @@ class Zugang : public QAccessibleWidget {
  private:
   QList<QWidget *> Kinder() const {
     QList<QWidget *> kinder = widget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
-    kinder.removeIf(
-        [](const QWidget *kind) { return kind->isWindow() || kind->isHidden() || IstLeer(kind); });
+    kinder.removeIf([](const QWidget *kind) {
+      const bool stumm = qobject_cast<const Bild *>(kind) && kind->accessibleName().isEmpty();
+      return stumm || kind->isWindow() || kind->isHidden();
+    });
     return kinder;
   }
 };
@@ -88,4 +85,23 @@ QAccessibleInterface *Fabrik(const QString &klasse, QObject *objekt) {
 
 void RichteZugangEin() {
   QAccessible::installFactory(Fabrik);
+}
+
+void SageAn(QWidget *element, const QString &text) {
+  if (!QAccessible::isActive())
+    return;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  if (text == element->accessibleName() || text == element->accessibleDescription())
+    return;  // A screen reader speaks the change of the focused control.
+  QAccessibleAnnouncementEvent ansage(element, text);
+  QAccessible::updateAccessibility(&ansage);
+#else
+  // Qt 6.4 has no announcements, and Orca loses its changes of names and descriptions. But Orca
+  // speaks a notification when it is shown. It asks for the text later.
+  constexpr std::chrono::minutes kAufbewahrt(1);
+  auto *ansage = new Bild(element->window(), {"", {}, "", "", "", QAccessible::Notification});
+  ansage->setAccessibleName(text);
+  ansage->show();
+  QTimer::singleShot(kAufbewahrt, ansage, &QObject::deleteLater);
+#endif
 }

@@ -104,6 +104,5 @@ void frmOptionen::cmdNehmen_Click() {
 
 void frmOptionen::ZeigeSound() {
   const bool an = SoundWahl_ && DasSoundgeraet().SoundGeraetDa();
-  imgSound_[0]->setVisible(!an);
-  imgSound_[1]->setVisible(an);
+  imgSound_.at(an ? 1 : 0)->Ersetze(imgSound_.at(an ? 0 : 1));
 }

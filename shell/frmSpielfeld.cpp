@@ -13,6 +13,7 @@
 #include "controls/tastatur.h"
 #include "controls/wahlgruppe.h"
 #include "controls/zifferreihe.h"
+#include "controls/zugang.h"
 #include "core/befehle.h"
 #include "core/level.h"
 #include "dialogs/frmBeste.h"
@@ -30,8 +31,9 @@
 
 namespace {
 
-const Bildeintrag kFlaeche{"frmSpielfeld", kClientflaeche,       "spielfeld", "",
-                           "Spiel",        QAccessible::Grouping};
+const Bildeintrag kFlaeche{"frmSpielfeld",     kClientflaeche, "spielfeld", "", "",
+                           QAccessible::Client};
+const Bildeintrag kKnopfbereich{"", kClientflaeche, "", "", "Knöpfe", QAccessible::Grouping};
 
 const Texteintrag kLblModus{"lblModus", {4260, 9960, 6615, 855}, 11.25, true, kDunkelblau};
 
@@ -52,9 +54,9 @@ constexpr auto kKnopf = QAccessible::Button;
 // clang-format off
 const std::pair<Pfeil, Bildeintrag> kPfeile[] = {
     {Pfeil::Start, {"imgZeigeStart", {2730, 9300, 360, 495}, "", "",
-                    "Pfeil auf »Neues Spiel«", QAccessible::Graphic}},
+                    "", QAccessible::Graphic}},
     {Pfeil::Weiter, {"imgWeiter", {4140, 10170, 495, 360}, "", "",
-                     "Pfeil auf den Knopf", QAccessible::Graphic}},
+                     "", QAccessible::Graphic}},
 };
 
 const std::vector<Knopfeintrag> kKnoepfe{  // imgNextLevel and cmdWiederholen: apart on purpose.
@@ -91,12 +93,13 @@ frmSpielfeld::frmSpielfeld() {
   setCentralWidget(flaeche);
   Picture1_ = new Spielbrett(flaeche, *this);
   lblModus_ = new Beschriftung(flaeche, kLblModus);
-  KnoepfeAufbauen(flaeche);
+  auto *knoepfe = new Bild(flaeche, kKnopfbereich);
+  KnoepfeAufbauen(knoepfe);
   PfeileAufbauen(flaeche);
   panel_ = std::make_unique<Panel>(flaeche);
   menueintraege_ = BaueMenue(*this);
   tastatur_ = std::make_unique<Tastatur>(
-      flaeche, Picture1_->Zellen(),
+      Tastatur::Bereiche{knoepfe, Picture1_, panel_->Reihe(Panelreihe::Punkte).parentWidget()},
       [this](bool spalte, int linie) { return Picture1_->Linientext(spalte, linie); });
   for (const B bedienung : {B::imgNextLevel, B::cmdWiederholen, B::imgSpeichern, B::imgBester})
     Zeige(bedienung, false);
@@ -116,15 +119,16 @@ void frmSpielfeld::Zentriere() {
   move(schirm.topLeft() + QPoint(rest.width(), rest.height()) / 2);
 }
 
-void frmSpielfeld::KnoepfeAufbauen(QWidget *flaeche) {
+void frmSpielfeld::KnoepfeAufbauen(QWidget *bereich) {
   for (const Knopfeintrag &knopf : kKnoepfe) {
-    auto *bild = new Bild(flaeche, knopf.bild);
+    auto *bild = new Bild(bereich, knopf.bild);
     bild->SetzeKlick([this, klick = knopf.klick] { klick(*this); });
     if (knopf.bedienung)
       bedienungen_[*knopf.bedienung] = bild;
   }
-  imgModus_ = std::make_unique<Wahlgruppe>(flaeche, kModuswahl, kModuseintraege,
+  imgModus_ = std::make_unique<Wahlgruppe>(bereich, kModuswahl, kModuseintraege,
                                            [this](int modus) { imgModus_Click(modus); });
+  bereich->setMask(bereich->childrenRegion());  // The mouse reaches what lies between the buttons.
 }
 
 void frmSpielfeld::PfeileAufbauen(QWidget *flaeche) {
@@ -149,7 +153,11 @@ void frmSpielfeld::SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe,
 }
 
 void frmSpielfeld::SetzeModustext(const std::string &text) {
+  const QString vorher = lblModus_->text().simplified();
   lblModus_->ZeigeText(text);
+  const QString jetzt = lblModus_->text().simplified();
+  if (jetzt != vorher)
+    SageAn(lblModus_, jetzt);
 }
 
 void frmSpielfeld::FaerbeModustext() {

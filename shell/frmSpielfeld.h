@@ -71,7 +71,7 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   bool focusNextPrevChild(bool vorwaerts) override;
 
  private:
-  void KnoepfeAufbauen(QWidget *flaeche);
+  void KnoepfeAufbauen(QWidget *bereich);
   void PfeileAufbauen(QWidget *flaeche);
   /// Centres the window with its frame on its screen.
   void Zentriere();

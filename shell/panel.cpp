@@ -26,14 +26,17 @@ const Paneleintrag kPanel[] = {  // In the order of `Panelreihe`, out of line on
       "Level, der gespielt wird", "Level", kTafel}, {2460, 6300}, 2},
 };
 // clang-format on
+const Bildeintrag kBereich{"", {0, 0, 3600, 10935}, "", "", "Anzeigetafel", QAccessible::Grouping};
 
 }  // namespace
 
 Panel::Panel(QWidget *flaeche) {
+  auto *bereich = new Bild(flaeche, kBereich);
   for (std::size_t i = 0; i < reihen_.size(); ++i) {
     const auto &[tafel, ecke, stellen, rot] = kPanel[i];
-    new Bild(flaeche, tafel);
-    reihen_.at(i) = new Zifferreihe(flaeche, ecke, stellen, tafel.ansage, rot);
+    new Bild(bereich, tafel);
+    reihen_.at(i) = new Zifferreihe(bereich, ecke, stellen, tafel.ansage, rot);
     reihen_.at(i)->setToolTip(tafel.tooltip);
   }
+  bereich->setMask(bereich->childrenRegion());
 }

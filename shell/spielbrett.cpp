@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "controls/bilder.h"
+#include "controls/zugang.h"
 #include "core/zug.h"
 #include "palette.h"
 
@@ -60,10 +61,6 @@ Twips Platzlage(const Zahlfeld &feld) {
   return lage;
 }
 
-const char *Linienart(bool spalte) {
-  return spalte ? "Spalte" : "Zeile";
-}
-
 QByteArray Name(const char *stamm, int nummer) {
   return stamm + QByteArray::number(nummer);
 }
@@ -89,28 +86,19 @@ void Zellenbild::Aktualisiere() {
                         .arg(ZeileVon(nummer_))
                         .arg(SpalteVon(nummer_))
                         .arg(Element(kWoerter, kachel_)));
+  if (hasFocus())
+    SageAn(this, accessibleName());
 }
 
 Zahlenbild::Zahlenbild(QWidget *eltern, int platz)
     : Bild(eltern, {Name("imgDiggi", platz), Platzlage(ZahlfeldVon(platz)), "", "", "",
-                    QAccessible::StaticText}),
-      platz_(platz) {
-  Aktualisiere();
+                    QAccessible::Graphic}) {
+  SetzeZahl(0);
 }
 
 void Zahlenbild::SetzeZahl(int zahl) {
   zahl_ = zahl;
-  Aktualisiere();
-}
-
-void Zahlenbild::Aktualisiere() {
   SetzeBild(frmZahlen::imgZahl(zahl_));
-  const Zahlfeld feld = ZahlfeldVon(platz_);
-  setAccessibleName(QString("%1 %2, Zahl %3: %4")
-                        .arg(Linienart(feld.spalte))
-                        .arg(feld.linie)
-                        .arg(feld.k)
-                        .arg(zahl_));
 }
 
 Brettlicht::Brettlicht(Spielbrett *brett)
@@ -174,7 +162,7 @@ QString Spielbrett::Linientext(bool spalte, int linie) const {
       zahlen.prepend(QString::number(Platz(platz).LiesZahl()));
   }
   return QString("%1 %2: %3")
-      .arg(Linienart(spalte))
+      .arg(spalte ? "Spalte" : "Zeile")
       .arg(linie)
       .arg(zahlen.isEmpty() ? "leer" : zahlen.join(", "));
 }

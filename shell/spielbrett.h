@@ -23,7 +23,7 @@ class Zellenbild : public Bild {
   Kachel kachel_ = Kachel::Verdeckt;
 };
 
-/// A clue place.
+/// A clue place. A screen reader reads the numbers by lines, see Linientext().
 class Zahlenbild : public Bild {
   Q_OBJECT
 
@@ -36,9 +36,6 @@ class Zahlenbild : public Bild {
   void SetzeZahl(int zahl);
 
  private:
-  void Aktualisiere();
-
-  int platz_;
   int zahl_ = 0;
 };
 
@@ -85,8 +82,6 @@ class Spielbrett : public Bild {
   Zahlenbild &Platz(int nummer) const { return *Element(imgDiggi_, nummer); }
 
   Brettlicht &Licht() const { return *licht_; }
-  /// The cells, row by row.
-  QList<QWidget *> Zellen() const { return {imgSar_.begin() + 1, imgSar_.end()}; }
   /// Reads the visible numbers of a line to a screen reader, from the left or from the top.
   /// @param linie   1 to 10.
   QString Linientext(bool spalte, int linie) const;
