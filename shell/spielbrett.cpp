@@ -121,13 +121,8 @@ void Brettlicht::paintEvent(QPaintEvent *) {
   abfall.setColorAt(0, Qt::transparent);
   abfall.setColorAt(1, QColor(kAbfall));
   maler.fillRect(rect(), abfall);
-  if (stand_ == Stand::Gewonnen)
-    MaleGewonnen(maler);
-}
-
-void Brettlicht::MaleGewonnen(QPainter &maler) const {
   int funken = 0;
-  for (int k = 0; k < kZellen; ++k) {
+  for (int k = 0; stand_ == Stand::Gewonnen && k < kZellen; ++k) {
     // Cells far from each other follow one another, so that the glints are scattered.
     const Zellenbild &zelle = brett_.Zelle(23 * k % kZellen + 1);
     const QRect ort = zelle.geometry().translated(-pos());

@@ -47,11 +47,9 @@ class Brettlicht : public Bild {
   Q_OBJECT
 
  public:
-  enum class Stand {
-    Warten,    ///< A great stone shows through the plates.
-    Spiel,     ///< Nothing but the light.
-    Gewonnen,  ///< All but the gems lies in shadow, and some gems glint.
-  };
+  /// While waiting, a great stone shows through the plates. On a won board all but the gems lies
+  /// in shadow, and some gems glint.
+  enum class Stand { Warten, Spiel, Gewonnen };
 
   explicit Brettlicht(Spielbrett *brett);
 
@@ -61,8 +59,6 @@ class Brettlicht : public Bild {
   void paintEvent(QPaintEvent *ereignis) override;
 
  private:
-  void MaleGewonnen(QPainter &maler) const;
-
   const Spielbrett &brett_;
   Stand stand_ = Stand::Spiel;
   QPixmap stein_;  ///< Null but while waiting.
