@@ -45,8 +45,8 @@ void ZeichneRing(QPainter &maler, const QPixmap &form, double breite) {
 
 Bild::Bild(QWidget *eltern, const Bildeintrag &eintrag)
     : QWidget(eltern),
-      bild_(eintrag.bild),
-      gedruecktesBild_(eintrag.gedrueckt),
+      bildname_(eintrag.bild),
+      gedrueckterName_(eintrag.gedrueckt),
       rolle_(eintrag.rolle) {
   setObjectName(eintrag.name);
   setGeometry(Rechteck(eintrag.lage));
@@ -55,18 +55,18 @@ Bild::Bild(QWidget *eltern, const Bildeintrag &eintrag)
 }
 
 void Bild::SetzeBild(const QString &name) {
-  if (bild_ == name)
+  if (bildname_ == name)
     return;
-  bild_ = name;
+  bildname_ = name;
   update();
 }
 
 QString Bild::Bildname() const {
-  return gedrueckt_ && !gedruecktesBild_.isEmpty() ? gedruecktesBild_ : bild_;
+  return gedrueckt_ && !gedrueckterName_.isEmpty() ? gedrueckterName_ : bildname_;
 }
 
 void Bild::LadeVor() const {
-  for (const QString &name : {bild_, gedruecktesBild_})
+  for (const QString &name : {bildname_, gedrueckterName_})
     Katalogbild(name, devicePixelRatioF());
 }
 
@@ -82,7 +82,7 @@ void Bild::Ersetze(Bild *anderes) {
   anderes->hide();
 }
 
-void Bild::Bediene(Qt::MouseButton taste) {
+void Bild::Klicke(Qt::MouseButton taste) {
   if (!IstErreichbar())
     return;
   Druecke(taste);
@@ -159,7 +159,7 @@ void Bild::keyPressEvent(QKeyEvent *ereignis) {
   }
   const bool markieren = ereignis->modifiers().testFlag(Qt::ShiftModifier);
   if (!IstWiederholung(*ereignis))  // The focus may have moved here while the key was down.
-    Bediene(markieren ? Qt::RightButton : Qt::LeftButton);
+    Klicke(markieren ? Qt::RightButton : Qt::LeftButton);
 }
 
 bool Bild::event(QEvent *ereignis) {

@@ -62,7 +62,7 @@ class Bild : public QWidget {
   /// Presses and releases a mouse button on the control, for keyboard and assistive technology.
   /// Does nothing if a mouse could not: the control is hidden or disabled, or a modal window or a
   /// menu is open.
-  void Bediene(Qt::MouseButton taste);
+  void Klicke(Qt::MouseButton taste);
 
  protected:
   void paintEvent(QPaintEvent *ereignis) override;
@@ -80,8 +80,8 @@ class Bild : public QWidget {
   void LasseLos(Qt::MouseButton taste, bool darueber);
   void SetzeGedrueckt(bool gedrueckt);
 
-  QString bild_;
-  QString gedruecktesBild_;  ///< Empty if a press changes nothing.
+  QString bildname_;
+  QString gedrueckterName_;  ///< Empty if a press changes nothing.
   bool gedrueckt_ = false;   ///< A mouse button was pressed here and is still down.
   quint64 gedruecktUm_ = 0;  ///< Time of the last press, in milliseconds.
   std::function<void()> klick_;

@@ -7,16 +7,11 @@
 #include "controls/bild.h"
 #include "controls/bilder.h"
 
-namespace {
-
-constexpr Twips kPlatz{0, 0, 210, 420};  // Size of a digit.
-
-}  // namespace
-
 Zifferreihe::Zifferreihe(QWidget *eltern, const Twips &ecke, int stellen, const QString &ansage,
                          const QString &rot)
     : QWidget(eltern), ansage_(ansage), rot_(rot), ziffern_(static_cast<std::size_t>(stellen)) {
-  setGeometry(Rechteck({ecke.left, ecke.top, stellen * kPlatz.width, kPlatz.height}));
+  setGeometry(
+      Rechteck({ecke.left, ecke.top, stellen * kZifferngroesse.width, kZifferngroesse.height}));
   AktualisiereName();
 }
 
@@ -57,7 +52,7 @@ void Zifferreihe::paintEvent(QPaintEvent *) {
   QPainter maler(this);
   int links = width();
   for (const auto &[farbe, wert] : ziffern_) {
-    links -= Pixel(kPlatz.width);
+    links -= Pixel(kZifferngroesse.width);
     const QString bild =
         farbe == Ziffernfarbe::Rot ? frmDigital::imgRot(wert) : frmDigital::imgDiggi(wert);
     ZeichneGenau(maler, QPointF(links, 0), Katalogbild(bild, devicePixelRatioF()));

@@ -7,6 +7,8 @@
 #include "controls/masse.h"
 #include "core/ansicht.h"
 
+inline constexpr Twips kZifferngroesse{0, 0, 210, 420};
+
 /// A row of digit pictures, as in the panel and in the best list.
 class Zifferreihe : public QWidget {
   Q_OBJECT

@@ -63,7 +63,7 @@ class ZugangBild : public Zugang {
       return;
     // Do not block the caller: the click may open a modal window.
     const Qt::MouseButton taste = name == pressAction() ? Qt::LeftButton : Qt::RightButton;
-    QTimer::singleShot(0, &DasBild(), [bild = &DasBild(), taste] { bild->Bediene(taste); });
+    QTimer::singleShot(0, &DasBild(), [bild = &DasBild(), taste] { bild->Klicke(taste); });
   }
 
  private:

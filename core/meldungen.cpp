@@ -46,7 +46,7 @@ Meldung FrageSucheSpielstand() {
   return {kSoundFrage,
           "Im Ordner " + spiel.Datenordner +
               "\r\nbefindet sich keine Datei mit gespeichtem Spielstand!",
-          "\r\nMöchten Sie selbst nach einer Datei suchen?", Lage::LinksOben};
+          "\r\nMöchten Sie selbst nach einer Datei suchen?", Fensterlage::LinksOben};
 }
 
 Meldung FrageLaden(int level, int modus, const std::string &punkte) {
@@ -74,11 +74,11 @@ Meldung FrageAuswahl(int level, int modus) {
 const Meldung MeldungSpielBeendet{
     kSoundTada, "Das Spiel ist beendet!\r\nSie haben alle Level erfolgreich gespielt.",
     "Es wird geprüft,\r\nob Sie sich in die Liste der Besten Spieler eintragen können.",
-    Lage::RechtsUnten};
+    Fensterlage::RechtsUnten};
 
 const Meldung MeldungVielenDank{
     kKeinSound, "\r\nVielen Dank!\r\nSie haben Glanzgrube erfolgreich beendet.",
-    "\r\nBesuchen Sie auch meine Homepage.\r\nwww.glanzgrube.example", Lage::RechtsUnten};
+    "\r\nBesuchen Sie auch meine Homepage.\r\nwww.glanzgrube.example", Fensterlage::RechtsUnten};
 
 const Meldung MeldungInfo{
     kSoundBlip,

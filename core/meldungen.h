@@ -13,7 +13,7 @@ inline constexpr int kSoundStart = 5;
 inline constexpr int kSoundTada = 6;
 
 /// Where a message window stands.
-enum class Lage {
+enum class Fensterlage {
   Mitte,        ///< Centred on the main window.
   RechtsUnten,  ///< 100 twips right of and below the main window's top left corner.
   LinksOben,    ///< 100 twips left of and above it.
@@ -24,7 +24,7 @@ struct Meldung {
   int sound;
   std::string lblMeldung;
   std::string lblTitel;
-  Lage lage = Lage::Mitte;
+  Fensterlage lage = Fensterlage::Mitte;
 };
 
 /// The name of the game with its version, as the title bars show it.

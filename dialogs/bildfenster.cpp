@@ -16,15 +16,15 @@ Bildfenster::Bildfenster(QWidget *eltern, Qt::WindowFlags art, const char *hinte
   setWindowModality(Qt::WindowModal);
 }
 
-void Bildfenster::Platziere(const QWidget *hauptfenster, Lage lage) {
+void Bildfenster::Platziere(const QWidget *hauptfenster, Fensterlage lage) {
   constexpr int kVersatz = 100;  // twips
   const QRect rahmen = hauptfenster->frameGeometry();
   const QPoint versatz(Pixel(kVersatz), Pixel(kVersatz));
-  if (lage == Lage::Mitte)
+  if (lage == Fensterlage::Mitte)
     move(rahmen.x() + (rahmen.width() - width()) / 2,
          rahmen.y() + (rahmen.height() - height()) / 2);
   else
-    move(rahmen.topLeft() + (lage == Lage::RechtsUnten ? versatz : -versatz));
+    move(rahmen.topLeft() + (lage == Fensterlage::RechtsUnten ? versatz : -versatz));
   BehalteGroesse(this);
   if (isHidden())
     OhneTaskleiste(windowHandle());

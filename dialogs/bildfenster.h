@@ -13,7 +13,7 @@ class Bildfenster : public QDialog {
 
  public:
   /// Moves the window to its position relative to the main window. Call it before each show.
-  void Platziere(const QWidget *hauptfenster, Lage lage);
+  void Platziere(const QWidget *hauptfenster, Fensterlage lage);
 
  protected:
   /// @param hintergrund   a picture of the catalogue, drawn at the top left corner and not scaled.

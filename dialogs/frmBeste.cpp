@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kPunktstellen = 7;
 constexpr Twips kErsterName{1300, 750, 2205, 405};
-constexpr Twips kErstePunkte{4830 - 210 * (kPunktstellen - 1), 720, 210, 420};
+constexpr Twips kErstePunkte{4830 - kZifferngroesse.width * (kPunktstellen - 1), 720};
 constexpr int kZeilenabstand = 90;  // twips
 
 const Texteintrag kTexte[] = {
@@ -70,7 +70,7 @@ frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
     Element(txtSpieler_, platz) = name;
 
     lage = kErstePunkte;
-    lage.top += platz * (kErstePunkte.height + kZeilenabstand);
+    lage.top += platz * (kZifferngroesse.height + kZeilenabstand);
     Element(imgDiggi_, platz) = new Zifferreihe(this, lage, kPunktstellen, "Punkte " + nummer);
   }
   lblClear_ = new Bild(this, kClear);
@@ -85,7 +85,7 @@ frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
 
 void frmBeste::ZeigeZumLesen() {
   spiel.Beste.BestenEintrag = false;
-  Platziere(hauptfenster_, Lage::LinksOben);
+  Platziere(hauptfenster_, Fensterlage::LinksOben);
   setWindowModality(Qt::NonModal);
   show();
   raise();
@@ -95,7 +95,7 @@ void frmBeste::ZeigeZumLesen() {
 void frmBeste::ZeigeZumEintragen() {
   hide();
   setWindowModality(Qt::WindowModal);
-  Platziere(hauptfenster_, Lage::LinksOben);
+  Platziere(hauptfenster_, Fensterlage::LinksOben);
   exec();
 }
 

@@ -24,11 +24,11 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster)
 }
 
 void frmHintergrund::paintEvent(QPaintEvent *) {
-  if (Image1.isNull())
-    Image1 = Streckbild("schreibtisch", size() * devicePixelRatioF());
+  if (Image1_.isNull())
+    Image1_ = Streckbild("schreibtisch", size() * devicePixelRatioF());
   QPainter maler(this);
   maler.setRenderHint(QPainter::SmoothPixmapTransform);
-  maler.drawPixmap(rect(), Image1);
+  maler.drawPixmap(rect(), Image1_);
 }
 
 void frmHintergrund::mousePressEvent(QMouseEvent *) {

@@ -18,5 +18,5 @@ class frmHintergrund : public QWidget {
 
  private:
   QWidget *hauptfenster_;
-  QPixmap Image1;  ///< Drawn stretched to the screen; null until it is decoded.
+  QPixmap Image1_;  ///< Drawn stretched to the screen; null until it is decoded.
 };

@@ -74,11 +74,18 @@ bool IstFremderBuchstabe(int taste) {
   return taste > kEndeLatein && taste <= QChar::LastValidCodePoint;
 }
 
+/// The window that a message blocks.
+QWidget *Vorderstes(QWidget *hauptfenster) {
+  QWidget *modal = QApplication::activeModalWidget();
+  return modal ? modal : hauptfenster;
+}
+
 }  // namespace
 
-Meldefenster::Meldefenster(const Meldelayout &layout, const Meldung &meldung)
-    : Bildfenster(QApplication::activeModalWidget(), Qt::Dialog | Qt::FramelessWindowHint,
+Meldefenster::Meldefenster(QWidget *hauptfenster, const Meldelayout &layout, const Meldung &meldung)
+    : Bildfenster(Vorderstes(hauptfenster), Qt::Dialog | Qt::FramelessWindowHint,
                   layout.hintergrund, layout.groesse),
+      hauptfenster_(hauptfenster),
       layout_(layout),
       lage_(meldung.lage) {
   (new Beschriftung(this, layout.lblName))->ZeigeText(Versionstext());
@@ -99,10 +106,8 @@ Meldefenster::Meldefenster(const Meldelayout &layout, const Meldung &meldung)
   }
 }
 
-void Meldefenster::ZeigeUeber(QWidget *hauptfenster) {
-  if (!parentWidget())
-    setParent(hauptfenster, windowFlags());
-  Platziere(hauptfenster, lage_);
+void Meldefenster::Zeige() {
+  Platziere(hauptfenster_, lage_);
   exec();
 }
 
@@ -140,8 +145,10 @@ void Meldefenster::keyPressEvent(QKeyEvent *ereignis) {
   }
 }
 
-frmMsgJa::frmMsgJa(const Meldung &meldung) : Meldefenster(kLayoutJa, meldung) {
+frmMsgJa::frmMsgJa(QWidget *hauptfenster, const Meldung &meldung)
+    : Meldefenster(hauptfenster, kLayoutJa, meldung) {
   spiel.Antwort = kAbgebrochen;
 }
 
-frmMsgOk::frmMsgOk(const Meldung &meldung) : Meldefenster(kLayoutOk, meldung) {}
+frmMsgOk::frmMsgOk(QWidget *hauptfenster, const Meldung &meldung)
+    : Meldefenster(hauptfenster, kLayoutOk, meldung) {}

@@ -15,10 +15,10 @@ class Meldefenster : public Bildfenster {
 
  public:
   /// Shows the window and returns when it has closed.
-  void ZeigeUeber(QWidget *hauptfenster);
+  void Zeige();
 
  protected:
-  Meldefenster(const Meldelayout &layout, const Meldung &meldung);
+  Meldefenster(QWidget *hauptfenster, const Meldelayout &layout, const Meldung &meldung);
 
   void mousePressEvent(QMouseEvent *ereignis) override;
   void mouseMoveEvent(QMouseEvent *ereignis) override;
@@ -27,8 +27,9 @@ class Meldefenster : public Bildfenster {
  private:
   void Antworte(std::int16_t antwort);
 
+  QWidget *hauptfenster_;
   const Meldelayout &layout_;
-  Lage lage_;
+  Fensterlage lage_;
   std::optional<QPoint> griff_;  ///< Position of the press that drags the window.
 };
 
@@ -37,7 +38,7 @@ class frmMsgJa : public Meldefenster {
   Q_OBJECT
 
  public:
-  explicit frmMsgJa(const Meldung &meldung);
+  frmMsgJa(QWidget *hauptfenster, const Meldung &meldung);
 };
 
 /// An announcement. Does not change `spiel.Antwort`.
@@ -45,5 +46,5 @@ class frmMsgOk : public Meldefenster {
   Q_OBJECT
 
  public:
-  explicit frmMsgOk(const Meldung &meldung);
+  frmMsgOk(QWidget *hauptfenster, const Meldung &meldung);
 };

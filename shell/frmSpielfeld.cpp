@@ -199,12 +199,12 @@ void frmSpielfeld::SpieleSound(int effekt) {
 void frmSpielfeld::Melde(const Meldung &meldung) {
   if (meldung.sound != kKeinSound)
     SpieleSound(meldung.sound);
-  frmMsgOk(meldung).ZeigeUeber(this);
+  frmMsgOk(this, meldung).Zeige();
 }
 
 bool frmSpielfeld::Frage(const Meldung &meldung) {
   SpieleSound(meldung.sound);
-  frmMsgJa(meldung).ZeigeUeber(this);
+  frmMsgJa(this, meldung).Zeige();
   return spiel.Antwort == kJa;
 }
 
@@ -300,7 +300,7 @@ void frmSpielfeld::imgEinstellungen_Click() {
   StoppePfeil(Pfeil::Start);
   SpieleSound(kSoundBlip);
   frmOptionen optionen(this, *this);
-  optionen.Platziere(this, Lage::LinksOben);
+  optionen.Platziere(this, Fensterlage::LinksOben);
   optionen.exec();
   activateWindow();  // With two windows closed at once, some window managers lose the focus.
 }

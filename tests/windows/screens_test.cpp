@@ -56,8 +56,8 @@ class Screens : public WindowFixture {
     action(*std::make_unique<frmOptionen>(&mainWindow, mainWindow));
     action(mainWindow.Bestenfenster());
     for (const Meldung &message : messages) {
-      action(*std::make_unique<frmMsgJa>(message));
-      action(*std::make_unique<frmMsgOk>(message));
+      action(*std::make_unique<frmMsgJa>(&mainWindow, message));
+      action(*std::make_unique<frmMsgOk>(&mainWindow, message));
     }
   }
 };
@@ -191,7 +191,7 @@ TEST_F(WindowFixture, OnADenserScreenPicturesAreSharpAndWindowsKeepTheirSize) {
 TEST_F(WindowFixture, AMessageWrapsALongPathAndShortensOneThatIsTooLong) {
   for (const auto &[length, pattern] : {std::pair(90, "x{90}"), {900, "x+…x+"}}) {
     spiel.Datenordner = "/heim/" + std::string(static_cast<std::size_t>(length), 'x') + "/kammern";
-    const frmMsgJa window(FrageSucheSpielstand());
+    const frmMsgJa window(board.get(), FrageSucheSpielstand());
     const QString text =
         Find<QLabel>(window, "lblMeldung")->text().remove(QRegularExpression("\\s"));
     EXPECT_TRUE(text.contains(QRegularExpression(

@@ -175,7 +175,7 @@ TEST_F(MainWindow, ShowsAllAtOnceAndDecodesNoPictureWhilePlaying) {
 }
 
 TEST_F(MainWindow, LetsOnlyThoseActWithoutAMouseWhomAMouseReaches) {
-  const auto Use = [this](const QString &name) { Find(*board, name)->Bediene(Qt::LeftButton); };
+  const auto Use = [this](const QString &name) { Find(*board, name)->Klicke(Qt::LeftButton); };
   Use("imgNeuesSpiel");
   for (const char *hidden : {"cmdWiederholen", "imgNextLevel", "imgModus1"})
     Use(hidden);
