@@ -6,7 +6,7 @@
 
 #include "controls/bild.h"
 #include "controls/bilder.h"
-#include "controls/tastatur.h"
+#include "dialogs/zugang.h"
 #include "platform/fenstersystem.h"
 
 Bildfenster::Bildfenster(QWidget *eltern, Qt::WindowFlags art, const char *hintergrund,

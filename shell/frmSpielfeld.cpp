@@ -10,15 +10,14 @@
 
 #include "controls/beschriftung.h"
 #include "controls/bilder.h"
-#include "controls/tastatur.h"
 #include "controls/wahlgruppe.h"
 #include "controls/zifferreihe.h"
-#include "controls/zugang.h"
 #include "core/befehle.h"
 #include "core/level.h"
 #include "dialogs/frmBeste.h"
 #include "dialogs/frmMsg.h"
 #include "dialogs/frmOptionen.h"
+#include "dialogs/zugang.h"
 #include "persistence/iniLumbra.h"
 #include "persistence/modBeste.h"
 #include "persistence/modCdVersion.h"
@@ -28,6 +27,7 @@
 #include "platform/mod_MySound.h"
 #include "shell/menue.h"
 #include "shell/panel.h"
+#include "shell/tastatur.h"
 
 namespace {
 
@@ -98,9 +98,8 @@ frmSpielfeld::frmSpielfeld() {
   PfeileAufbauen(flaeche);
   panel_ = std::make_unique<Panel>(flaeche);
   menueintraege_ = BaueMenue(*this);
-  tastatur_ = std::make_unique<Tastatur>(
-      Tastatur::Bereiche{knoepfe, Picture1_, panel_->Reihe(Panelreihe::Punkte).parentWidget()},
-      [this](bool spalte, int linie) { return Picture1_->Linientext(spalte, linie); });
+  tastatur_ = std::make_unique<Tastatur>(knoepfe, Picture1_,
+                                         panel_->Reihe(Panelreihe::Punkte).parentWidget());
   for (const B bedienung : {B::imgNextLevel, B::cmdWiederholen, B::imgSpeichern, B::imgBester})
     Zeige(bedienung, false);
   Picture1_->Licht().Setze(Brettlicht::Stand::Warten);

@@ -4,8 +4,9 @@
 #include <QStringList>
 
 #include "controls/bilder.h"
-#include "controls/zugang.h"
+#include "core/zahlen.h"
 #include "core/zug.h"
+#include "dialogs/zugang.h"
 #include "palette.h"
 
 namespace {
@@ -24,39 +25,20 @@ constexpr int kPlatzschrittLinks = 350;
 
 constexpr int kFunken = 9;
 
-int ZeileVon(int zelle) {
-  return (zelle - 1) / kLinie + 1;
-}
-int SpalteVon(int zelle) {
-  return (zelle - 1) % kLinie + 1;
-}
-
 Twips Zellenlage(int zelle) {
   return {kZelle.left + kZelle.width * (SpalteVon(zelle) - 1),
           kZelle.top + kZelle.height * (ZeileVon(zelle) - 1), kZelle.width, kZelle.height};
 }
 
-/// The line and the position of a clue place.
-struct Zahlfeld {
-  bool spalte;
-  int linie;  ///< From 1.
-  int k;      ///< From 1, which is next to the board.
-};
-
-Zahlfeld ZahlfeldVon(int platz) {
-  const int nummer = (platz - 1) % (kZahlfelder / 2);
-  return {platz <= kZahlfelder / 2, nummer / kPlaetzeJeLinie + 1, nummer % kPlaetzeJeLinie + 1};
-}
-
 /// Place 1 of a line is next to the cells, the others are further outside.
-Twips Platzlage(const Zahlfeld &feld) {
-  Twips lage = feld.spalte ? kSpaltenplatz : kZeilenplatz;
-  if (feld.spalte) {
-    lage.left += kZelle.width * (feld.linie - 1);
-    lage.top -= kPlatzschrittHoch * (feld.k - 1);
+Twips Platzlage(bool spalte, int linie, int k) {
+  Twips lage = spalte ? kSpaltenplatz : kZeilenplatz;
+  if (spalte) {
+    lage.left += kZelle.width * (linie - 1);
+    lage.top -= kPlatzschrittHoch * (k - 1);
   } else {
-    lage.left -= kPlatzschrittLinks * (feld.k - 1);
-    lage.top += kZelle.height * (feld.linie - 1);
+    lage.left -= kPlatzschrittLinks * (k - 1);
+    lage.top += kZelle.height * (linie - 1);
   }
   return lage;
 }
@@ -90,9 +72,9 @@ void Zellenbild::Aktualisiere() {
     SageAn(this, accessibleName());
 }
 
-Zahlenbild::Zahlenbild(QWidget *eltern, int platz)
-    : Bild(eltern, {Name("imgDiggi", platz), Platzlage(ZahlfeldVon(platz)), "", "", "",
-                    QAccessible::Graphic}) {
+Zahlenbild::Zahlenbild(QWidget *eltern, bool spalte, int linie, int k)
+    : Bild(eltern, {Name("imgDiggi", PlatzVon(spalte, linie, k)), Platzlage(spalte, linie, k), "",
+                    "", "", QAccessible::Graphic}) {
   SetzeZahl(0);
 }
 
@@ -144,17 +126,19 @@ Spielbrett::Spielbrett(QWidget *eltern, Ansicht &ansicht) : Bild(eltern, kPictur
     });
     Element(imgSar_, n) = zelle;
   }
-  for (int n = 1; n <= kZahlfelder; ++n)
-    Element(imgDiggi_, n) = new Zahlenbild(this, n);
+  for (const bool spalte : {true, false})
+    for (int linie = 1; linie <= kLinie; ++linie)
+      for (int k = 1; k <= kPlaetzeJeLinie; ++k)
+        Element(imgDiggi_, PlatzVon(spalte, linie, k)) = new Zahlenbild(this, spalte, linie, k);
   licht_ = new Brettlicht(this);
 }
 
 QString Spielbrett::Linientext(bool spalte, int linie) const {
   QStringList zahlen;
-  for (int platz = 1; platz <= kZahlfelder; ++platz) {
-    const Zahlfeld feld = ZahlfeldVon(platz);
-    if (feld.spalte == spalte && feld.linie == linie && !Platz(platz).isHidden())
-      zahlen.prepend(QString::number(Platz(platz).LiesZahl()));
+  for (int k = kPlaetzeJeLinie; k >= 1; --k) {
+    const Zahlenbild &platz = Platz(PlatzVon(spalte, linie, k));
+    if (!platz.isHidden())
+      zahlen.append(QString::number(platz.LiesZahl()));
   }
   return QString("%1 %2: %3")
       .arg(spalte ? "Spalte" : "Zeile")

@@ -28,8 +28,8 @@ class Zahlenbild : public Bild {
   Q_OBJECT
 
  public:
-  /// @param platz   1 to 50 for the columns from the left, 51 to 100 for the rows from the top.
-  Zahlenbild(QWidget *eltern, int platz);
+  /// For the other parameters see PlatzVon().
+  Zahlenbild(QWidget *eltern, bool spalte, int linie, int k);
 
   int LiesZahl() const { return zahl_; }
   /// @param zahl   0 (empty) to 10.

@@ -1,4 +1,4 @@
-#include "controls/zugang.h"
+#include "dialogs/zugang.h"
 
 #include <QAccessibleWidget>
 #include <QTimer>
@@ -6,6 +6,7 @@
 
 #include "controls/bild.h"
 #include "controls/zifferreihe.h"
+#include "dialogs/bildfenster.h"
 
 namespace {
 
@@ -71,13 +72,13 @@ class ZugangBild : public Zugang {
 };
 
 /// Qt calls this for the class of an object, then for its base classes.
-QAccessibleInterface *Fabrik(const QString &klasse, QObject *objekt) {
+QAccessibleInterface *Fabrik(const QString &, QObject *objekt) {
   if (auto *bild = qobject_cast<Bild *>(objekt))
     return new ZugangBild(bild);
   if (auto *reihe = qobject_cast<Zifferreihe *>(objekt))
     return new QAccessibleWidget(reihe, QAccessible::StaticText);
-  if (klasse == "Bildfenster")
-    return new Zugang(qobject_cast<QWidget *>(objekt), QAccessible::Dialog);
+  if (auto *fenster = qobject_cast<Bildfenster *>(objekt))
+    return new Zugang(fenster, QAccessible::Dialog);
   return nullptr;
 }
 
@@ -104,4 +105,11 @@ void SageAn(QWidget *element, const QString &text) {
   ansage->show();
   QTimer::singleShot(kAufbewahrt, ansage, &QObject::deleteLater);
 #endif
+}
+
+void ErlaubeTab(QWidget *fenster) {
+  for (Bild *bild : fenster->findChildren<Bild *>()) {
+    if (bild->IstBedienbar())
+      bild->setFocusPolicy(QAccessible::isActive() ? Qt::TabFocus : Qt::NoFocus);
+  }
 }

@@ -1,37 +1,31 @@
-#include "controls/tastatur.h"
+#include "shell/tastatur.h"
 
 #include <QAccessible>
 #include <algorithm>
 #include <map>
 
 #include "controls/bild.h"
-#include "controls/zugang.h"
-#include "core/spiel.h"
+#include "core/zahlen.h"
+#include "dialogs/zugang.h"
+#include "shell/spielbrett.h"
 
-void ErlaubeTab(QWidget *fenster) {
-  for (Bild *bild : fenster->findChildren<Bild *>()) {
-    if (bild->IstBedienbar())
-      bild->setFocusPolicy(QAccessible::isActive() ? Qt::TabFocus : Qt::NoFocus);
-  }
-}
+Tastatur::Tastatur(QWidget *knoepfe, Spielbrett *brett, QWidget *panel)
+    : brett_(brett), bereiche_{knoepfe, brett, panel} {}
 
-Tastatur::Tastatur(const Bereiche &bereiche, std::function<QString(bool, int)> zahlen)
-    : bereiche_(bereiche), zahlen_(std::move(zahlen)) {}
-
-QList<QWidget *> Tastatur::Elemente() const {
+QList<QWidget *> Tastatur::Ziele() const {
   const QWidget *bereich = Element(bereiche_, bereich_);
-  QList<QWidget *> elemente = bereich->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
-  elemente.removeIf([](const QWidget *element) {
-    const auto *bild = qobject_cast<const Bild *>(element);
-    return element->isHidden() || (bild && !bild->IstBedienbar());
+  QList<QWidget *> ziele = bereich->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+  ziele.removeIf([](const QWidget *ziel) {
+    const auto *bild = qobject_cast<const Bild *>(ziel);
+    return ziel->isHidden() || (bild && !bild->IstBedienbar());
   });
-  std::ranges::sort(elemente, {}, [](const QWidget *e) { return std::pair(e->y(), e->x()); });
-  return elemente;
+  std::ranges::sort(ziele, {}, [](const QWidget *e) { return std::pair(e->y(), e->x()); });
+  return ziele;
 }
 
 QWidget *Tastatur::Aktuelles() const {
-  const auto elemente = Elemente();
-  return elemente.at(std::min(Element(stelle_, bereich_), elemente.size() - 1));
+  const auto ziele = Ziele();
+  return ziele.at(std::min(Element(stelle_, bereich_), ziele.size() - 1));
 }
 
 bool Tastatur::WechsleBereich(bool vorwaerts) {
@@ -48,7 +42,7 @@ bool Tastatur::WechsleBereich(bool vorwaerts) {
 }
 
 void Tastatur::Bewege(int schritt) {
-  const qsizetype anzahl = Elemente().size();
+  const qsizetype anzahl = Ziele().size();
   qsizetype &stelle = Element(stelle_, bereich_);
   const qsizetype ziel = std::min(stelle, anzahl - 1) + schritt;
   const bool andereZeile =
@@ -60,9 +54,9 @@ void Tastatur::Bewege(int schritt) {
 }
 
 void Tastatur::LiesZahlen(bool spalte) const {
-  const int zelle = static_cast<int>(stelle_.at(kFeld));
-  const int linie = (spalte ? zelle % kLinie : zelle / kLinie) + 1;
-  Aktuelles()->setAccessibleDescription(zahlen_(spalte, linie));
+  const int zelle = static_cast<int>(stelle_.at(kFeld)) + 1;
+  const int linie = spalte ? SpalteVon(zelle) : ZeileVon(zelle);
+  Aktuelles()->setAccessibleDescription(brett_->Linientext(spalte, linie));
   SageAn(Aktuelles(), Aktuelles()->accessibleDescription());
 }
 
