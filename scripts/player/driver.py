@@ -5,7 +5,7 @@ import pyatspi
 from program import (COVERED, GEM, MARKED, TITLE, WRONG, Bus, Deviation, Mouse, Program, has, labels,
                      lines, read_files, wait_for, walk, xdotool)
 
-BLIP, ERROR, TADA = "BLIP.WAV", "FEHLER.WAV", "TADA.WAV"
+BLIP, ERROR, QUESTION, START, TADA = (f"{n}.WAV" for n in ("BLIP", "FEHLER", "FRAGE", "START", "TADA"))
 BEST, OPTIONS = "Beste Spieler ", "Form1"
 MODES = {1: "Einfach", 2: "Normal", 3: "Experte"}
 FILES = {"sarant.ini": lines(2),
@@ -30,9 +30,9 @@ class Driver:
         heard; a sound that nobody waits for disturbs the next one."""
         def compare():
             self.view = self.program.read() | {"files": read_files()}
-            wrong = {name: (self.view[name], value)
+            wrong = {name: (self.view.get(name), value)
                      for name, value in (wanted | {"files": self.files}).items()
-                     if self.view[name] != value}
+                     if self.view.get(name) != value}
             if wrong:
                 raise Deviation(wrong)
             return True
@@ -87,7 +87,7 @@ class Driver:
         for name in names:
             self.hand.click(self.program.button(name, title))
 
-    def confirm(self, words, answer):
+    def confirm(self, words, answer, sound=None):
         """Reads the message that has these words, and answers it by a button or a key."""
         def is_shown():
             window = self.program.window(TITLE)
@@ -96,7 +96,7 @@ class Driver:
                     and (has(window, pyatspi.STATE_ACTIVE) or isinstance(self.hand, Bus)))
         wait_for(is_shown, words)
         if self.sound:
-            self.audio.listen()
+            self.audio.expect(sound) if sound else self.audio.listen()
         if answer in ("Ja", "Nein", "OK"):
             self.press(answer, title=TITLE)
         else:

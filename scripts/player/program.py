@@ -32,7 +32,8 @@ def wait_for(condition, what, patience=60.0):
         except (GLib.GError, NotImplementedError, Deviation) as problem:
             error = problem  # What is looked at may be changing.
         time.sleep(0.02)
-    raise Deviation(f"waited in vain: {what}") from error
+    focus = [e.name for app in pyatspi.Registry.getDesktop(0) for e in walk(app, True) if has(e, pyatspi.STATE_FOCUSED)]
+    raise Deviation(f"waited in vain: {what}; focus: {focus}") from error
 
 
 def lines(*values):
@@ -103,6 +104,7 @@ class Program:
     """One run of the game."""
 
     def __init__(self, path, **environment):
+        pyatspi.Atspi.set_timeout(60000, 60000)  # milliseconds; a busy machine answers late
         pyatspi.Registry.getDesktop(0)  # Starts the bus; the program asks for it only once.
         with open(STAGE / "stderr", "w") as stderr:
             self.process = subprocess.Popen([path], env=os.environ | environment, stderr=stderr)
