@@ -6,6 +6,8 @@ set -euo pipefail
 measure() { # WHAT FILE EFFECT...
   sox "$2" -n "${@:3}" stats -w 0.125 2>&1 | awk -v what="$1" 'index($0, what) { print $4 }'
 }
+# What is longer stands behind.
+for name in BLIP FRAGE WHOOSH START FEHLER TADA; do soxi -D "$1/$name.WAV"; done | sort -cn
 last=0
 for name in TADA FEHLER FRAGE START BLIP; do
   file=$1/$name.WAV
