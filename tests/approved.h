@@ -3,26 +3,33 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
-/// Collects what a test tells and compares it when the test ends. The text of this run lies beside
-/// the test program; after a look at the difference it may become the approved one.
+/// Collects what a test tells, and compares it when the test ends, in lines that a person can read.
+/// A text that differs stays beside the test program until it no longer does.
 class Transcript : public std::ostringstream {
  public:
   ~Transcript() override {
-    if (str().empty())
-      return;
-    const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
-    std::ofstream(TOLD + name + ".txt") << str();
-    std::ifstream approved(APPROVED + name + ".txt");
-    std::istringstream lines(str());
-    std::string line, wanted;
-    while (line == wanted && std::getline(lines, line)) {
-      wanted.clear();
-      std::getline(approved, wanted);
-      EXPECT_EQ(line, wanted) << TOLD << name << ".txt";
+    const auto *test = testing::UnitTest::GetInstance()->current_test_info();
+    const auto name = std::string(test->test_suite_name()) + "." + test->name() + ".txt";
+    const std::string told = TOLD + name, approved = APPROVED + name;
+    std::string text = str();
+    for (std::size_t first = 0, last = 0; first < text.size(); first = last + 1) {
+      last = std::min(text.find('\n', first), text.size());
+      const std::size_t blank = text.rfind(' ', first + 116);
+      if (last - first > 120 && blank + 1 > first + 5)
+        text.replace(last = blank, 1, "\n    ");
     }
-    EXPECT_EQ(approved.peek(), EOF) << "fewer lines than " APPROVED << name;
+    std::ostringstream wanted;
+    wanted << std::ifstream(approved).rdbuf();  // Empty for a test that tells nothing.
+    std::remove(told.c_str());
+    if (text == wanted.str())
+      return;
+    std::ofstream(told) << text;
+    EXPECT_EQ(std::system(("diff -u " + approved + " " + told).c_str()), 0)
+        << "to approve what is told now: cp " << told << " " << APPROVED;
   }
 };

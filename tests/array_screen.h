@@ -17,29 +17,28 @@ class ArrayScreen : public Ansicht {
   std::array<bool, kZahlfelder + 1> numberVisible{};
   std::deque<std::int16_t> answers;  ///< Answers to come; an empty queue cancels.
 
+  /// What the player sees and hears, by what it is called.
+  std::map<std::string, std::string> shown;
+
   int Count(Kachel tile) const {
     return static_cast<int>(std::count(tiles.begin() + 1, tiles.end(), tile));
   }
-  /// What the player sees and hears, the game and the messages: what differs from the last time.
+  /// The sounds and messages since the last time, and what else has changed on the screen or in the
+  /// game.
   std::string Tell() {
     for (const auto &[kind, name] : {std::pair(Kachel::Markiert, "marks"),
                                      {Kachel::Fehler, "errors"},
                                      {Kachel::Sarant, "gems"}})
       shown[name] = std::to_string(Count(kind));
-    shown["game"] = "level " + std::to_string(spiel.Level) + ", mode " +
-                    std::to_string(spiel.Spielmodus) + ", points " + std::to_string(spiel.Punkte) +
-                    " + " + std::to_string(spiel.Levelpunkte);
-    shown["panel"].clear();
-    for (const auto &[place, digit] : digits)
-      shown["panel"] += digit + (place.second == 0 ? " " : "");
+    shown["game"] = "level " + std::to_string(spiel.Level) + " " + ModusName(spiel.Spielmodus) +
+                    ", points " + std::to_string(spiel.Punkte) + " + " +
+                    std::to_string(spiel.Levelpunkte);
     std::string text;
     for (const auto &[name, value] : shown)
       if (value != told[name])
         text += " | " + name + ": " + value;
     shown["sounds"] = shown["message"] = "";
     told = shown;
-    std::erase(text, '\r');
-    std::replace(text.begin(), text.end(), '\n', '/');
     return text + "\n";
   }
 
@@ -51,8 +50,11 @@ class ArrayScreen : public Ansicht {
   void SetzeZiffer(Panelreihe reihe, int stelle, Ziffernfarbe farbe, int ziffer) override {
     const std::string sign(1, "0123456789_"[ziffer]);
     digits[{reihe, -stelle}] = farbe == Ziffernfarbe::Rot ? "[" + sign + "]" : sign;
+    shown["panel"].clear();
+    for (const auto &[place, digit] : digits)
+      shown["panel"] += digit + (place.second == 0 ? " " : "");
   }
-  void SetzeModustext(const std::string &text) override { shown["text"] = text; }
+  void SetzeModustext(const std::string &text) override { shown["text"] = Line(text); }
   void FaerbeModustext() override { shown["colour"] = "blue"; }
   bool IstSichtbar(Bedienung b) const override {
     return shown.contains(Name(b)) && shown.at(Name(b)) == "visible";
@@ -60,16 +62,22 @@ class ArrayScreen : public Ansicht {
   void Zeige(Bedienung b, bool s) override { shown[Name(b)] = s ? "visible" : "hidden"; }
   void VerbergeModuswahl() override { shown["modes"] = "hidden"; }
   void StartePfeil(Pfeil pfeil, int takt) override {
-    shown[Name(pfeil) + " timer"] = std::to_string(takt);
+    shown[Name(pfeil) + " blinks"] = takt == 0 ? "no" : "each " + std::to_string(takt) + " ms";
   }
-  void ZeigePfeil(Pfeil pfeil, int phase) override { shown[Name(pfeil)] = std::to_string(phase); }
+  void ZeigePfeil(Pfeil pfeil, int phase) override {
+    static constexpr std::array kColours{"yellow", "red", "none"};
+    shown[Name(pfeil)] = Element(kColours, phase);
+  }
   void StoppePfeil(Pfeil pfeil) override {
     StartePfeil(pfeil, 0);
     ZeigePfeil(pfeil, kKeinPfeil);
   }
-  void SpieleSound(int effekt) override { shown["sounds"] += std::to_string(effekt); }
+  void SpieleSound(int effekt) override {
+    static constexpr std::array kSounds{"", "", "question", "error", "blip", "start", "tada"};
+    shown["sounds"] += std::string(shown["sounds"].empty() ? "" : " ") + Element(kSounds, effekt);
+  }
   void Melde(const Meldung &meldung) override {
-    shown["message"] += meldung.lblTitel + " " + meldung.lblMeldung;
+    shown["message"] += Line(meldung.lblTitel) + " (" + Line(meldung.lblMeldung) + ")";
   }
   bool Frage(const Meldung &meldung) override {
     Melde(meldung);
@@ -84,14 +92,21 @@ class ArrayScreen : public Ansicht {
 
  private:
   static std::string Name(Bedienung bedienung) {
-    static constexpr std::array kNames{"next", "repeat", "save", "load", "best", "arrow"};
+    static constexpr std::array kNames{"next", "repeat", "save", "load", "best", "arrow is"};
     return Element(kNames, bedienung);
   }
   static std::string Name(Pfeil pfeil) {
     return pfeil == Pfeil::Start ? "start arrow" : "next arrow";
   }
+  /// The lines of a text in one line.
+  static std::string Line(std::string text) {
+    std::erase(text, '\r');
+    text.erase(0, text.find_first_not_of('\n'));
+    std::replace(text.begin(), text.end(), '\n', '/');
+    return text;
+  }
 
   /// By row and negative place, so as they stand; '_' is blank, red in brackets.
   std::map<std::pair<Panelreihe, int>, std::string> digits;
-  std::map<std::string, std::string> shown, told;
+  std::map<std::string, std::string> told;
 };

@@ -42,8 +42,7 @@ class WindowFixture : public testing::Test {
     planned.push_back([action](QWidget *window) {
       if (auto *expected = qobject_cast<Window *>(window))
         return action(*expected);
-      ADD_FAILURE() << window->metaObject()->className();
-      window->close();
+      Refuse(window);
     });
   }
   /// Asks a question and acts on its window, which closes then.
@@ -90,15 +89,24 @@ class WindowFixture : public testing::Test {
     if (!window || std::find(handled.begin(), handled.end(), window) != handled.end())
       return;
     handled.emplace_back(window);
-    if (planned.empty()) {
-      ADD_FAILURE() << "unexpected window " << window->metaObject()->className();
-      window->close();
-      return;
-    }
+    if (planned.empty())
+      return Refuse(window);
     const auto action = planned.front();
     planned.pop_front();
     // A timer does not tick while its own tick is handled, and the action may open the next window.
-    QTimer::singleShot(0, window, [action, window] { action(window); });
+    QTimer::singleShot(0, window, [action, window = QPointer(window)] {
+      action(window);
+      if (window && window->isVisible())
+        Refuse(window);
+    });
+  }
+  /// Closes a window that should not be there, so that the test can go on.
+  static void Refuse(QWidget *window) {
+    QString words = window->windowTitle();
+    for (const QLabel *label : window->findChildren<QLabel *>())
+      words += " | " + label->text();
+    ADD_FAILURE() << "unexpected: " << window->metaObject()->className() << " " << words;
+    window->close();
   }
 
   std::deque<std::function<void(QWidget *)>> planned;

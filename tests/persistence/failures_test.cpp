@@ -46,54 +46,55 @@ class Failure : public DataFixture {
     files = {path, IniPfad(), BestenlistePfad()};
   }
 
-  /// Each operation tells the failure in its own way and changes nothing.
-  void TellAll(const char *what) {
-    told << what << "\n";
+  /// Each operation tells its own failure and changes nothing.
+  void ExpectErrors(const std::string &save, const std::string &load) {
+    SCOPED_TRACE(save);
     SpeichereSpielstand(screen, path);
-    Tell("  save");
+    ExpectMessage("Fehlernummer: " + save + " (Fehler beim Speichen");
     BestenlisteSpeichern(screen);
-    Tell("  save the list");
+    ExpectMessage("Fehler beim Speichern (Die Werte");
     SchreibeIni();
     BestenlisteAnlegen();
-    Tell("  write settings and defaults");
+    ExpectMessage("");
     LadeSpielstand(screen, path);
-    Tell("  load");
+    ExpectMessage("Fehlernummer: " + load + " (Fehler beim Lesen der Datei");
     BestenlisteLaden(screen);
-    Tell("  load the list");
+    ExpectMessage("Fehlernummer: " + load + " (Die Daten");
     EXPECT_EQ(spiel.Bestenschwelle, 77);
   }
 };
 
 TEST_F(Failure, SomethingIsMissingOrAFolderOrBrokenOrLong) {
   LadeSpielstand(screen, path);
+  ExpectMessage("Fehlernummer: 1 (Fehler beim Lesen");
   BestenlisteLaden(screen);
-  Tell("no file");
+  ExpectMessage("Fehlernummer: 1 (Die Daten");
   for (const QString &file : files)
     QDir().mkdir(file);
-  TellAll("folders");
+  ExpectErrors("2", "2");
   QDir(data).removeRecursively();
-  TellAll("no folder");
+  ExpectErrors("3", "3");
   QDir().mkdir(data);
   for (const QString &file : files)
     QFile::link("/proc/self/mem", file);  // A file whose first byte cannot be read.
-  TellAll("unreadable");
-  for (const int length : {248, 304}) {
-    SpeichereSpielstand(screen, data + "/" + QString(length, 'x'));
-    Tell(QByteArray::number(length) + " signs");
-  }
+  ExpectErrors("2", "8");
+  SpeichereSpielstand(screen, data + "/" + QString(248, 'x'));
+  ExpectMessage("");
+  SpeichereSpielstand(screen, data + "/" + QString(304, 'x'));
+  ExpectMessage("Fehlernummer: 8");
 }
 
 TEST_F(Failure, TheDiskIsFullOrDoesNotConfirmOrRightsAreMissing) {
   for (const QString &file : files)
     WriteFile(file, "old");
   writeError = ENOSPC;
-  TellAll("full");
+  ExpectErrors("4", "5");
   writeError = 0;
   syncError = EIO;
-  TellAll("not confirmed");
+  ExpectErrors("8", "5");
   syncError = 0;
   refused = O_CLOEXEC;  // Each file is opened with it.
-  TellAll("no rights");
+  ExpectErrors("2", "2");
   refused = O_EXCL;  // The folder takes no new file.
   SchreibeIni();
   refused = 0;
@@ -119,11 +120,11 @@ TEST_F(Failure, LinksAndModesStay) {
   struct stat state = {};
   stat(qPrintable(path), &state);
   EXPECT_EQ(state.st_mode & 0777U, 0640U);
+  ExpectMessage("");
   QFile::remove(path);
-  QFile::link(link, path);
-  Tell("links");
+  QFile::link(link, path);  // A loop.
   SpeichereSpielstand(screen, link);
-  Tell("loop");
+  ExpectMessage("Fehlernummer: 2");
   EXPECT_TRUE(QFileInfo(path).isSymLink());
 }
 

@@ -1,10 +1,11 @@
 // A fresh game with a data folder of its own, as real as the player's.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QTemporaryDir>
 
 #include "persistence/modBeste.h"
-#include "tests/approved.h"
 #include "tests/array_screen.h"
 #include "tests/files.h"
 
@@ -13,17 +14,15 @@ class DataFixture : public testing::Test {
   QTemporaryDir folder;
   QString path = folder.filePath("spiel.sar");
   ArrayScreen screen;
-  Transcript told;
 
   DataFixture() {
     spiel = {};
     spiel.Datenordner = folder.path().toStdString();
     spiel.DatenordnerAktiv = true;
-    screen.Tell();
   }
-  /// Tells the first bytes of a file or a text, and what has changed on the screen.
-  void Tell(const QByteArray &bytes) {
-    told << bytes.left(60).toPercentEncoding(" ").data()
-         << QString::fromStdString(screen.Tell()).replace(folder.path(), "FOLDER").toStdString();
+  /// Since the last time a message that begins like this has been shown, or none.
+  void ExpectMessage(const std::string &begin) {
+    EXPECT_EQ(screen.shown["message"].substr(0, begin.empty() ? 1 : begin.size()), begin);
+    screen.shown["message"].clear();
   }
 };

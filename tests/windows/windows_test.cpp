@@ -1,13 +1,14 @@
 // The windows, played by mouse and keyboard.
-#include <QtTest/qtestspontaneevent.h>
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTreeView>
 
 #include "controls/bilder.h"
+#include "controls/masse.h"
 #include "controls/zifferreihe.h"
 #include "dialogs/frmBeste.h"
 #include "dialogs/frmHintergrund.h"
@@ -21,20 +22,20 @@ namespace {
 using Messages = WindowFixture;
 
 TEST_F(Messages, CloseByAnAnswerOnly) {
-  for (const char *button : {"lblJa", "", "lblNein", "Image1"}) {
-    Ask([button](Meldefenster &window) {
+  for (const auto &[button, answer] : {std::pair("lblJa", kJa),
+                                       {"", kAbgebrochen},
+                                       {"lblNein", kNein},
+                                       {"Image1", kAbgebrochen}}) {
+    Ask([button = button](Meldefenster &window) {
       for (const char *key : {"Return", "Enter", "F1", "Space", "Ctrl+J", "Alt+N", "Meta+Esc"})
         Press(window, key);
-      const QImage face = Find(window, "lblJa")->grab().toImage();
-      Find(window, "lblJa")->setFocus();
-      EXPECT_NE(Find(window, "lblJa")->grab().toImage(), face) << "no ring";
       QTest::mousePress(Find(window, "lblJa"), Qt::LeftButton);
       QTest::mouseRelease(Find(window, "lblJa"), Qt::LeftButton, {}, QPoint(-50, 0));
       EXPECT_TRUE(window.isVisible());
       if (*button)
         Click(Find(window, button));
     });
-    told << button << " " << spiel.Antwort << "\n";
+    EXPECT_EQ(spiel.Antwort, answer) << button;
   }
   // A key counts by its place where the alphabet has no Latin letters.
   for (const auto &[place, answer] : {std::pair(0x24U, kJa), {0x31U, kNein}}) {
@@ -58,6 +59,11 @@ TEST_F(Messages, StandInTheirPlaceAndLetTheArrowBlink) {
     EXPECT_EQ(window.pos(),
               main.topLeft() + QPoint((main.width() - 392) / 2, (main.height() - 236) / 2));
     ExpectPicture("imgZeigeStart", "pfeilhoch1");
+    const QPoint before = window.pos(), by(40, 30);
+    QTest::mousePress(&window, Qt::LeftButton, {}, {9, 9});
+    QMouseEvent drag(QEvent::MouseMove, by, before + QPoint(9, 9) + by, {}, Qt::LeftButton, {});
+    QApplication::sendEvent(&window, &drag);
+    EXPECT_EQ(window.pos(), before + by);
   });
   Then<frmMsgOk>([&](frmMsgOk &window) {
     EXPECT_EQ(window.pos(), main.topLeft() + QPoint(7, 7));
@@ -74,19 +80,24 @@ TEST_F(Messages, TheSecondPressOfADoubleClickCountsOnlyWhereTheFirstDid) {
   int cell = 1;
   while (board->LiesKachel(cell) != Kachel::Verdeckt)
     ++cell;
-  const auto Send = [&](QEvent::Type press, quint64 time) {
+  const auto Send = [](QWidget *target, Qt::MouseButton button, QEvent::Type press, quint64 time) {
     for (const auto type : {press, QEvent::MouseButtonRelease}) {
-      QMouseEvent event(type, {5, 5}, {5, 5}, Qt::RightButton, Qt::RightButton, {});
+      QMouseEvent event(type, {5, 5}, {5, 5}, button, button, {});
       event.setTimestamp(time);
-      QApplication::sendEvent(Find(*board, "imgSar" + QString::number(cell)), &event);
+      QApplication::sendEvent(target, &event);
     }
-    return board->LiesKachel(cell);
   };
-  EXPECT_EQ(Send(QEvent::MouseButtonDblClick, 100'000), Kachel::Verdeckt);
-  EXPECT_EQ(Send(QEvent::MouseButtonPress, 200'000), Kachel::Markiert);
-  EXPECT_EQ(Send(QEvent::MouseButtonDblClick, 200'100), Kachel::Verdeckt);
-  // A question would fail the test.
-  QTest::mouseDClick(Find(*board, "imgNeuesSpiel"), Qt::LeftButton);
+  Bild *covered = Find(*board, "imgSar" + QString::number(cell)), *end = Find(*board, "imgEnde");
+  for (const auto &[press, time, tile] :
+       {std::tuple(QEvent::MouseButtonDblClick, 100'000U, Kachel::Verdeckt),
+        {QEvent::MouseButtonPress, 200'000U, Kachel::Markiert},
+        {QEvent::MouseButtonDblClick, 200'100U, Kachel::Verdeckt}}) {
+    Send(covered, Qt::RightButton, press, time);
+    EXPECT_EQ(board->LiesKachel(cell), tile);
+  }
+  ThenAnswer("N");
+  Send(end, Qt::LeftButton, QEvent::MouseButtonPress, 300'000);
+  Send(end, Qt::LeftButton, QEvent::MouseButtonDblClick, 300'100);  // Another question would fail.
 }
 
 TEST_F(Messages, AHeldKeyDoesNotCountInTheNextWindow) {
@@ -140,7 +151,6 @@ TEST_F(MainWindow, StandsInTheMiddleBeforeACoverThatBringsItBack) {
     EXPECT_TRUE(window.isActiveWindow() && !board->isMinimized());
     EXPECT_EQ(board->centralWidget()->internalWinId(), 0U) << "it is no window of its own";
   });
-  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
 }
 
 TEST_F(MainWindow, ShowsAllAtOnceAndDecodesNoPictureWhilePlaying) {
@@ -159,16 +169,10 @@ TEST_F(MainWindow, ShowsAllAtOnceAndDecodesNoPictureWhilePlaying) {
     Click("imgNeuesSpiel");
     ExpectPainted();
     Lose();
-    const QImage errors = board->findChildren<Zifferreihe *>().at(2)->grab().toImage();
-    EXPECT_EQ(errors.copy(14, 0, 14, 28).convertToFormat(QImage::Format_RGB32),
-              Katalogbild("rot2", 1).toImage().convertToFormat(QImage::Format_RGB32));
     Click("cmdWiederholen");
     ExpectPainted();
   }
   EXPECT_EQ(GeladeneBilder(), loaded);
-  auto *level = board->findChildren<Zifferreihe *>().at(4);
-  level->setFocus();
-  EXPECT_EQ(level->grab().toImage().pixelColor(0, 9), Qt::blue) << "no ring";
   for (int place = 51; place <= 55; ++place)
     board->ZeigeZahlfeld(place, false);
   EXPECT_EQ(board->findChild<Spielbrett *>()->Linientext(false, 1), "Zeile 1: leer");
@@ -221,15 +225,45 @@ TEST_F(MainWindow, SavesUnderTheNameThatStandsInTheField) {
   }
 }
 
+TEST_F(MainWindow, SpeaksGermanInTheFileDialogWhichCanBeCancelled) {
+  for (const Bedienung button : {Bedienung::imgOeffnen, Bedienung::imgSpeichern})
+    board->Zeige(button, true);
+  WriteFile(DataFile("alt.sar"), QByteArray(2048, ' '));
+  QFile file(DataFile("alt.sar"));
+  file.open(QIODevice::ReadWrite);
+  file.setFileTime(QDateTime(QDate(2026, 3, 31), QTime(1, 2)), QFileDevice::FileModificationTime);
+  const auto Cancel = [](QFileDialog &dialog) {
+    auto *table = Find<QTreeView>(dialog, "treeView");
+    const QModelIndex row = table->rootIndex();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return table->model()->rowCount(row) > 0; }));
+    QStringList words{Find<QLabel>(dialog, "fileNameLabel")->text()};
+    for (int column = 0; column < 4; ++column)
+      words << table->model()->headerData(column, Qt::Horizontal).toString()
+            << table->model()->index(0, column, row).data().toString();
+    EXPECT_EQ(words.join('|'),
+              "Datei&name:|Name|alt.sar|Größe|2,00 KiB|Typ|Datei|Änderungsdatum|31.03.26 01:02");
+    QTest::keyClicks(Find<QLineEdit>(dialog, "fileNameEdit"), "alt.sar");
+    Press(dialog, "Esc");
+  };
+  Then<QFileDialog>(Cancel);
+  Click("imgOeffnen");  // Without a question.
+  Then<QFileDialog>(Cancel);
+  Then<frmMsgOk>([](frmMsgOk &window) {
+    EXPECT_EQ(Find<QLabel>(window, "lblTitel")->text(), "\nKein gültiger Dateiname");
+    window.close();
+  });
+  Find<QAction>(*board, "mnuSpiel3")->trigger();
+}
+
 TEST_F(MainWindow, EachTierInEachModeBeginsItsGame) {
-  for (int choice = 0; choice < 18; ++choice) {
+  for (int choice = 0; choice < 6; ++choice) {
     WriteFile(DataFile("sarant.ini"), "other");  // A mode that stays as it was is not written.
     for (const char *answer : {"N", "J"}) {
       spiel.Punkte = 0;
       Then<frmOptionen>([&](frmOptionen &window) {
         EXPECT_EQ(window.pos(), board->pos() - QPoint(7, 7));
         for (const QString &name :
-             {QString("imgLevel%1").arg(choice % 6), QString("imgModus%1").arg(choice / 6 + 1)}) {
+             {QString("imgLevel%1").arg(choice), QString("imgModus%1").arg(choice / 2 + 1)}) {
           Bild *face = Find(window, name);
           if (face->isVisible())  // It is not the chosen one, which has another face.
             Click(face);
@@ -239,95 +273,12 @@ TEST_F(MainWindow, EachTierInEachModeBeginsItsGame) {
         Click(Find(window, "cmdNehmen"));
       });
       Click("imgEinstellungen");
-      told << answer << ": level " << spiel.Level << ", mode " << spiel.Spielmodus << ", points "
-           << spiel.Punkte << ", file " << ReadFile(DataFile("sarant.ini")).trimmed().data()
-           << ", arrow " << Find(*board, "imgZeigeStart")->Bildname() << "\n";
+      told << answer << " | level " << spiel.Level << " " << ModusName(spiel.Spielmodus)
+           << " | points " << spiel.Punkte << " | settings "
+           << ReadFile(DataFile("sarant.ini")).trimmed().data() << "\n";
+      EXPECT_EQ(Find(*board, "imgZeigeStart")->Bildname(), "");
     }
   }
-}
-
-class BestWindow : public WindowFixture {
- protected:
-  frmBeste &Window() { return board->Bestenfenster(); }
-  /// Enters the list with some points, and does something with the open window.
-  void Enter(std::int32_t points, const std::function<void(frmBeste &)> &action) {
-    spiel.Punkte = points;
-    ThenAnswer("J");
-    Then<frmBeste>(action);
-    board->Zeige(Bedienung::imgBester, true);
-    Click("imgBester");
-    EXPECT_FALSE(board->IstSichtbar(Bedienung::imgBester));
-  }
-  QLineEdit *Name(int row) { return Window().findChildren<QLineEdit *>().at(row); }
-  void Ok() { Click(Find(Window(), "cmdEnde")); }
-  /// Tells the file and the window: names with their selection and cursor, and points.
-  void Tell(const char *what) {
-    const QByteArray file = ReadFile(DataFile("sarant.txt")).simplified();
-    told << what << ": " << file.toPercentEncoding(" ").data() << ", " << spiel.Bestenschwelle;
-    for (int row = 0; row < kBeste && Window().isVisible(); ++row)
-      told << " | " << Name(row)->text() << " [" << Name(row)->selectedText() << "] "
-           << Name(row)->cursorPosition() << " "
-           << Window().findChildren<Zifferreihe *>().at(row)->Gezeigt();
-    told << (Find(Window(), "lblClear")->isVisible() ? ", may be cleared\n" : "\n");
-  }
-};
-
-TEST_F(BestWindow, TakesTheNameAndOnlyYesClearsTheList) {
-  Enter(14500, [](frmBeste &window) { window.close(); });
-  Tell("closed");
-  Enter(14500, [this](frmBeste &window) {
-    Tell("entry");
-    Name(2)->insert("Käthe €");  // As an input method would; it replaces the selection.
-    QShowEvent restored;         // By the desktop, after the window was minimised.
-    QSpontaneKeyEvent::setSpontaneous(&restored);
-    qApp->notify(&window, &restored);
-    for (const char *key : {"Return", "Esc", "Alt+A"})
-      Press(window, key);
-    ASSERT_TRUE(window.isVisible());
-    Ok();
-  });
-  Tell("saved");
-  Enter(20000, [this](frmBeste &) {
-    Name(0)->clear();
-    Ok();
-  });
-  Tell("without a name");
-  Window().close();  // Unloading brings the access key back.
-  for (const char *answer : {"N", "J"}) {
-    Window().ZeigeZumLesen();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
-    Tell("shown");
-    ThenAnswer(answer);
-    Press(Window(), "Alt+A");
-    Tell(answer);
-  }
-  Window().ZeigeZumLesen();
-  Tell("defaults");
-}
-
-TEST_F(BestWindow, ForReadingAllIsLockedUntilAnEntryTakesTheWindow) {
-  WriteFile(DataFile("sarant.txt"), "A\r\nB\r\nC\r\nD\r\nE\r\n1234567\r\n 42\r\nabc\r\n0\r\n7\r\n");
-  Window().ZeigeZumLesen();
-  EXPECT_EQ(Window().pos(), board->frameGeometry().topLeft() - QPoint(7, 7));
-  QTest::keyClicks(Name(0), "x");
-  Tell("locked");
-  Enter(40, [this](frmBeste &) { Ok(); });
-  Tell("entry");
-}
-
-TEST_F(BestWindow, AShortListIsFullAfterOkAndWhatWasNotClearedIsTold) {
-  WriteFile(DataFile("sarant.txt"), "");
-  ThenAnswer("Esc");
-  Window().ZeigeZumLesen();
-  Tell("short");
-  Ok();
-  Window().ZeigeZumLesen();
-  Tell("full");
-  QFile::remove(DataFile("sarant.txt"));
-  QDir().mkdir(DataFile("sarant.txt"));
-  for (const char *key : {"J", "Esc", "Esc"})  // It could be neither written nor read.
-    ThenAnswer(key);
-  Click(Find(Window(), "lblClear"));
 }
 
 }  // namespace
@@ -336,15 +287,18 @@ int main(int argc, char *argv[]) {
   // Two screens side by side, of which the second one is twice as dense.
   const QTemporaryDir folder;
   QDir::setCurrent(folder.path());  // A full path has a colon under Windows, which ends the name.
-  WriteFile("screens", R"({"screens": [
-    {"name": "1", "x": 0, "y": 0, "width": 1280, "height": 1024},
-    {"name": "2", "x": 1280, "y": 0, "width": 2560, "height": 2048}]})");
+  const int width = qEnvironmentVariable("SCREEN_WIDTH", "1280").toInt();
+  const auto screens = QString(R"({"screens": [
+    {"name": "1", "x": 0, "y": 0, "width": %1, "height": %2},
+    {"name": "2", "x": %1, "y": 0, "width": 2560, "height": 2048}]})");
+  WriteFile("screens", screens.arg(width).arg(width * 4 / 5).toUtf8());
   qputenv("QT_SCREEN_SCALE_FACTORS", "1=1;2=2");  // Windows do not see a "dpr" of these screens.
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screens");
   qputenv("LC_ALL", "fr_FR.UTF-8");  // Any language but German.
   testing::InitGoogleTest(&argc, argv);
   QApplication application(argc, argv);
   QDir::setCurrent(QDir::rootPath());
+  StelleMassstab(Schrumpffaktor());
   RichteAnwendungEin(application);
   return RUN_ALL_TESTS();
 }
