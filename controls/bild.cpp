@@ -5,7 +5,6 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QStyleHints>
 #include <algorithm>
 #include <utility>
 
@@ -83,16 +82,12 @@ void Bild::Ersetze(Bild *anderes) {
 }
 
 void Bild::Klicke(Qt::MouseButton taste) {
-  if (!IstErreichbar())
+  const QWidget *modal = QApplication::activeModalWidget();
+  if (!isVisible() || !isEnabled() || (modal && modal != window()) ||
+      QApplication::activePopupWidget())
     return;
   Druecke(taste);
   LasseLos(taste, true);
-}
-
-bool Bild::IstErreichbar() const {
-  const QWidget *modal = QApplication::activeModalWidget();
-  return isVisible() && isEnabled() && (!modal || modal == window()) &&
-         !QApplication::activePopupWidget();
 }
 
 void Bild::Druecke(Qt::MouseButton taste) {
@@ -135,16 +130,8 @@ void Bild::paintEvent(QPaintEvent *) {
 
 void Bild::mousePressEvent(QMouseEvent *ereignis) {
   ereignis->setAccepted(IstBedienbar());
-  gedruecktUm_ = ereignis->timestamp();
-  Druecke(ereignis->button());
-}
-
-void Bild::mouseDoubleClickEvent(QMouseEvent *ereignis) {
-  ereignis->setAccepted(IstBedienbar());
-  // The first press may have closed a window or hidden a button above this control.
-  const auto abstand = static_cast<int>(ereignis->timestamp() - gedruecktUm_);
-  if (druck_ && abstand <= QGuiApplication::styleHints()->mouseDoubleClickInterval())
-    mousePressEvent(ereignis);
+  if (druck_ || ereignis->type() != QEvent::MouseButtonDblClick)
+    Druecke(ereignis->button());
 }
 
 void Bild::mouseReleaseEvent(QMouseEvent *ereignis) {

@@ -66,16 +66,14 @@ class Bild : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent *ereignis) override;
+  /// Also the second press of a double click, which counts only if the control takes presses.
   void mousePressEvent(QMouseEvent *ereignis) override;
-  /// The second press of a double click counts if the control takes presses and got the first one.
-  void mouseDoubleClickEvent(QMouseEvent *ereignis) override;
   void mouseReleaseEvent(QMouseEvent *ereignis) override;
   /// Space acts as the left mouse button on the focused control, Shift+Space as the right one.
   void keyPressEvent(QKeyEvent *ereignis) override;
   bool event(QEvent *ereignis) override;
 
  private:
-  bool IstErreichbar() const;
   void Druecke(Qt::MouseButton taste);
   void LasseLos(Qt::MouseButton taste, bool darueber);
   void SetzeGedrueckt(bool gedrueckt);
@@ -83,7 +81,6 @@ class Bild : public QWidget {
   QString bildname_;
   QString gedrueckterName_;  ///< Empty if a press changes nothing.
   bool gedrueckt_ = false;   ///< A mouse button was pressed here and is still down.
-  quint64 gedruecktUm_ = 0;  ///< Time of the last press, in milliseconds.
   std::function<void()> klick_;
   std::function<void(Qt::MouseButton)> druck_;
   QAccessible::Role rolle_;

@@ -1,8 +1,11 @@
 #include "controls/wiederholung.h"
 
 #include <QGuiApplication>
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPointer>
+#include <QRegion>
+#include <QStyleHints>
+#include <QWidget>
 #include <QWindow>
 #include <map>
 
@@ -47,14 +50,30 @@ const Taste &Beurteile(const QKeyEvent &druck) {
   return taste;
 }
 
+QRegion geschlossen;       ///< Where windows have closed since the last pause between two presses.
+quint64 letzterDruck = 0;  ///< Of any mouse button in any window. Milliseconds.
+
+bool IstNachklick(const QMouseEvent &druck) {
+  const quint64 abstand = druck.timestamp() - letzterDruck;
+  letzterDruck = druck.timestamp();
+  if (abstand >= static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval()))
+    geschlossen = {};
+  return geschlossen.contains(druck.globalPosition().toPoint());
+}
+
 }  // namespace
 
 bool IstWiederholung(const QKeyEvent &taste) {
   return tasten[taste.key()].wiederholt;  // The event filter has judged it.
 }
 
-bool Tastenwache::eventFilter(QObject *, QEvent *ereignis) {
+bool Eingabewache::eventFilter(QObject *ziel, QEvent *ereignis) {
   const QEvent::Type art = ereignis->type();
+  if (art == QEvent::MouseButtonPress || art == QEvent::MouseButtonDblClick)
+    return IstNachklick(*static_cast<QMouseEvent *>(ereignis));
+  const auto *fenster = art == QEvent::Hide ? qobject_cast<QWidget *>(ziel) : nullptr;
+  if (fenster && fenster->isWindow() && fenster->windowType() != Qt::ToolTip)
+    geschlossen += fenster->frameGeometry();
   if (art == QEvent::KeyRelease) {
     const auto &taste = *static_cast<QKeyEvent *>(ereignis);
     quint64 &losgelassen = tasten[taste.key()].losgelassen;

@@ -47,7 +47,7 @@ void RichteAnwendungEin(QApplication &anwendung) {
   auto *uebersetzung = new QTranslator(&anwendung);
   if (uebersetzung->load(":/uebersetzung/qtbase_de.qm"))
     QApplication::installTranslator(uebersetzung);
-  anwendung.installEventFilter(new Tastenwache(&anwendung));
+  anwendung.installEventFilter(new Eingabewache(&anwendung));
   // Otherwise winId() of a message window makes native windows of the main window's children.
   QApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
   // A native menu bar would wait for the session bus.

@@ -28,6 +28,10 @@ def throw(program):
         # A random click could lead the file dialog out of the data folder.
         xdotool("type", "--delay", 40, f"{DATA}/w{random.randrange(4)}.sar")
         Mouse().key(random.choice(("Return", "Escape")))
+    elif what < 0.05:  # Two quick clicks on the two sides of a border between cells.
+        x, y = centre(random.choice(program.cells()))
+        click = "click", random.choice((1, 3))
+        xdotool("mousemove", x + 23, y, *click, "mousemove_relative", 2, 0, *click)
     elif what < 0.5:
         Mouse().click(random.choice(program.cells()), random.choice((1, 1, 3, 3, 2)))
     elif what < 0.75:
@@ -37,9 +41,10 @@ def throw(program):
     else:  # Any control of any window, so that each of them is left again.
         window = random.choice([program.main_window()] + 3 * windows)
         start, end = random.choices([e for e in buttons(window) if e.name != "Beenden"], k=2)
-        twice = ["--repeat", 2, "--delay", random.randint(40, 300)] * random.choice((0, 0, 1))
+        more = ["--repeat", random.choice((2, 3)), "--delay", random.randint(40, 300)]
+        more *= random.choice((0, 0, 1))
         drag = "mousedown", 1, "mousemove", *centre(end), "mouseup", 1
-        click = "click", *twice, random.choice((1, 1, 1, 3))
+        click = "click", *more, random.choice((1, 1, 1, 3))
         xdotool("mousemove", *centre(start), *random.choice((click, click, click, drag)))
 
 
