@@ -42,6 +42,17 @@ void ZeichneRing(QPainter &maler, const QPixmap &form, double breite) {
   }
 }
 
+QPixmap Rundform(const QWidget &element) {
+  QPixmap form(element.size() * element.devicePixelRatioF());
+  form.setDevicePixelRatio(element.devicePixelRatioF());
+  form.fill(Qt::transparent);
+  QPainter maler(&form);
+  maler.setRenderHint(QPainter::Antialiasing);
+  maler.setBrush(Qt::gray);
+  maler.drawRoundedRect(QRectF(element.rect()), 10, 10);
+  return form;
+}
+
 Bild::Bild(QWidget *eltern, const Bildeintrag &eintrag)
     : QWidget(eltern),
       bildname_(eintrag.bild),
@@ -112,20 +123,18 @@ void Bild::SetzeGedrueckt(bool gedrueckt) {
 
 void Bild::paintEvent(QPaintEvent *) {
   QPainter maler(this);
-  QPixmap bild = Katalogbild(Bildname(), devicePixelRatioF());
-  ZeichneGenau(maler, {0, 0}, bild);
-  if (!hasFocus())
-    return;
-  if (bild.isNull()) {  // The button is painted into the window's background.
-    bild = QPixmap(size() * devicePixelRatioF());
-    bild.setDevicePixelRatio(devicePixelRatioF());
-    bild.fill(Qt::transparent);
-    QPainter form(&bild);
-    form.setRenderHint(QPainter::Antialiasing);
-    form.setBrush(Qt::black);
-    form.drawRoundedRect(QRectF(rect()), 10, 10);
+  const QPixmap bild = Katalogbild(Bildname(), devicePixelRatioF());
+  // Without a picture, the button is painted into the window's background.
+  const QPixmap form = bild.isNull() && klick_ ? Rundform(*this) : bild;
+  const bool gesenkt = gedrueckt_ && klick_ && gedruecktesBild_.isEmpty();
+  ZeichneGenau(maler, {0, gesenkt ? 1.0 : 0.0}, bild);
+  if (hasFocus())
+    ZeichneRing(maler, form, 2.5);
+  if (gesenkt) {
+    maler.setOpacity(0.4);
+    maler.setCompositionMode(QPainter::CompositionMode_Multiply);
+    ZeichneGenau(maler, {0, 1}, form);
   }
-  ZeichneRing(maler, bild, 2.5);
 }
 
 void Bild::mousePressEvent(QMouseEvent *ereignis) {

@@ -17,6 +17,9 @@ void ZeichneGenau(QPainter &maler, const QPointF &ort, const QPixmap &bild);
 /// @param breite of the blue part. A thin white line inside makes it visible on dark pictures.
 void ZeichneRing(QPainter &maler, const QPixmap &form, double breite);
 
+/// A rounded rectangle of the size of a control, in device pixels.
+QPixmap Rundform(const QWidget &element);
+
 /// One entry of a window's table of pictures.
 struct Bildeintrag {
   const char *name;     ///< The control's name.
@@ -25,7 +28,7 @@ struct Bildeintrag {
   const char *tooltip;  ///< Empty for none.
   const char *ansage;   ///< What a screen reader says.
   QAccessible::Role rolle = QAccessible::Button;
-  const char *gedrueckt = "";  ///< Picture while a mouse button is held down; empty: the same.
+  const char *gedrueckt = "";  ///< Picture while held down; empty: `bild`, lower and darker.
 };
 
 /// A control that shows a picture: button, tile, clue place, arrow or label. Without a picture it

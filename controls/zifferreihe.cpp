@@ -7,11 +7,20 @@
 #include "controls/bild.h"
 #include "controls/bilder.h"
 
+namespace {
+
+constexpr int kRand = 60;  // Twips around the digits, for the focus ring.
+
+}  // namespace
+
 Zifferreihe::Zifferreihe(QWidget *eltern, const Twips &ecke, int stellen, const QString &ansage,
                          const QString &rot)
     : QWidget(eltern), ansage_(ansage), rot_(rot), ziffern_(static_cast<std::size_t>(stellen)) {
-  setGeometry(
-      Rechteck({ecke.left, ecke.top, stellen * kZifferngroesse.width, kZifferngroesse.height}));
+  const int rechts = Pixel(ecke.left + stellen * kZifferngroesse.width);
+  const QSize ziffer = Rechteck(kZifferngroesse).size();
+  const QRect ziffern(rechts - stellen * ziffer.width(), Pixel(ecke.top), stellen * ziffer.width(),
+                      ziffer.height());
+  setGeometry(ziffern.adjusted(-Pixel(kRand), -Pixel(kRand), Pixel(kRand), Pixel(kRand)));
   AktualisiereName();
 }
 
@@ -50,17 +59,13 @@ void Zifferreihe::AktualisiereName() {
 
 void Zifferreihe::paintEvent(QPaintEvent *) {
   QPainter maler(this);
-  int links = width();
+  int links = width() - Pixel(kRand);
   for (const auto &[farbe, wert] : ziffern_) {
     links -= Pixel(kZifferngroesse.width);
     const QString bild =
         farbe == Ziffernfarbe::Rot ? frmDigital::imgRot(wert) : frmDigital::imgDiggi(wert);
-    ZeichneGenau(maler, QPointF(links, 0), Katalogbild(bild, devicePixelRatioF()));
+    ZeichneGenau(maler, QPointF(links, Pixel(kRand)), Katalogbild(bild, devicePixelRatioF()));
   }
-  if (hasFocus()) {
-    QPixmap form(size() * devicePixelRatioF());
-    form.setDevicePixelRatio(devicePixelRatioF());
-    form.fill();
-    ZeichneRing(maler, form, 1);
-  }
+  if (hasFocus())
+    ZeichneRing(maler, Rundform(*this), 2.5);
 }

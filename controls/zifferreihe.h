@@ -9,7 +9,7 @@
 
 inline constexpr Twips kZifferngroesse{0, 0, 210, 420};
 
-/// A row of digit pictures, as in the panel and in the best list.
+/// A row of digit pictures with some pixels around it, as in the panel and in the best list.
 class Zifferreihe : public QWidget {
   Q_OBJECT
 

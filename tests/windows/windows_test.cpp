@@ -178,6 +178,9 @@ TEST_F(MainWindow, ShowsAllAtOnceAndDecodesNoPictureWhilePlaying) {
     ExpectPainted();
   }
   EXPECT_EQ(GeladeneBilder(), loaded);
+  auto *level = board->findChildren<Zifferreihe *>().at(4);
+  level->setFocus();
+  EXPECT_EQ(level->grab().toImage().pixelColor(0, 18), Qt::blue) << "no ring";
   for (int place = 51; place <= 55; ++place)
     board->ZeigeZahlfeld(place, false);
   EXPECT_EQ(board->findChild<Spielbrett *>()->Linientext(false, 1), "Zeile 1: leer");
