@@ -36,7 +36,8 @@ Beschriftung::Beschriftung(QWidget *eltern, const Texteintrag &eintrag)
 }
 
 void Beschriftung::ZeigeText(const std::string &text, int freieZeilen) {
-  const QString ganz = QString::fromStdString(text).remove('\r');
+  QString ganz = QString::fromStdString(text).remove('\r');
+  ganz.remove(500, ganz.size() - 1000);  // No label shows more, and measuring takes long.
   const int kleinste = schrift_.pixelSize() * 85 / 100;  // Smaller is hard to read.
   QFont schrift = schrift_;
   setFont(schrift);

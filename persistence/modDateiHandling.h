@@ -5,14 +5,14 @@
 
 #include "core/ansicht.h"
 
-/// True if the data folder holds a file whose name ends in ".sar", hidden files included.
+/// True if the data folder holds a file named "*.sar" or "*.SAR", hidden files included.
 bool SpielstandVorhanden();
 
 /// If the data folder holds no saved game, asks whether the player wants to look elsewhere.
 /// @param weiter   becomes false if the player does not; else it is not changed.
 void SucheSpielstand(Ansicht &ansicht, bool &weiter);
 
-/// Loads the file if its name ends in ".sar", else shows that it is no saved game.
+/// Loads the file if its name ends in ".sar", not ".SAR"; else shows that it is no saved game.
 void LadeGewaehlteDatei(Ansicht &ansicht, const QString &pfad);
 
 /// Reads a saved game, asks for confirmation and begins the level after the stored one. A failure

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "platform/codepage.h"
+#include "platform/modExistiertDatei.h"
 #include "platform/system.h"
 
 namespace {
@@ -62,7 +63,8 @@ Textzeilen LiesZeilen(const QString &pfad, int anzahl) {
   Textzeilen gelesen{{}, Pfadfehler(pfad)};
   QFile datei(pfad);
   if (gelesen.Fehler == Dateifehler::Keiner && !datei.open(QIODevice::ReadOnly))
-    gelesen.Fehler = datei.exists() ? Dateifehler::ZugriffVerweigert : Dateifehler::NichtGefunden;
+    gelesen.Fehler =
+        ExistiertDatei(pfad) ? Dateifehler::ZugriffVerweigert : Dateifehler::NichtGefunden;
   if (gelesen.Fehler != Dateifehler::Keiner)
     return gelesen;
   QByteArray zeile;
