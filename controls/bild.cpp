@@ -126,7 +126,7 @@ void Bild::paintEvent(QPaintEvent *) {
   const QPixmap bild = Katalogbild(Bildname(), devicePixelRatioF());
   // Without a picture, the button is painted into the window's background.
   const QPixmap form = bild.isNull() && klick_ ? Rundform(*this) : bild;
-  const bool gesenkt = gedrueckt_ && klick_ && gedruecktesBild_.isEmpty();
+  const bool gesenkt = gedrueckt_ && klick_ && gedrueckterName_.isEmpty();
   ZeichneGenau(maler, {0, gesenkt ? 1.0 : 0.0}, bild);
   if (hasFocus())
     ZeichneRing(maler, form, 2.5);

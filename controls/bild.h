@@ -82,7 +82,7 @@ class Bild : public QWidget {
   void SetzeGedrueckt(bool gedrueckt);
 
   QString bildname_;
-  QString gedrueckterName_;  ///< Empty if a press changes nothing.
+  QString gedrueckterName_;  ///< Empty: the same, on a button lower and darker.
   bool gedrueckt_ = false;   ///< A mouse button was pressed here and is still down.
   std::function<void()> klick_;
   std::function<void(Qt::MouseButton)> druck_;

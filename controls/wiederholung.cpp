@@ -71,9 +71,8 @@ bool Eingabewache::eventFilter(QObject *ziel, QEvent *ereignis) {
   const QEvent::Type art = ereignis->type();
   if (art == QEvent::MouseButtonPress || art == QEvent::MouseButtonDblClick)
     return IstNachklick(*static_cast<QMouseEvent *>(ereignis));
-  const auto *fenster = art == QEvent::Hide ? qobject_cast<QWidget *>(ziel) : nullptr;
-  if (fenster && fenster->isWindow() && fenster->windowType() != Qt::ToolTip)
-    geschlossen += fenster->frameGeometry();
+  if (art == QEvent::Hide && (ziel->inherits("QDialog") || ziel->inherits("QMenu")))
+    geschlossen += static_cast<QWidget *>(ziel)->frameGeometry();
   if (art == QEvent::KeyRelease) {
     const auto &taste = *static_cast<QKeyEvent *>(ereignis);
     quint64 &losgelassen = tasten[taste.key()].losgelassen;

@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QWindow>
+#include <utility>
 
 #include "controls/bild.h"
 #include "controls/bilder.h"
@@ -30,10 +32,24 @@ void Bildfenster::Platziere(const QWidget *hauptfenster, Fensterlage lage) {
     OhneTaskleiste(windowHandle());
 }
 
+int Bildfenster::exec() {
+  while (QDialog::exec(), erneut_) {
+  }
+  parentWidget()->activateWindow();  // Without a window manager, nobody gives the focus back.
+  return result();
+}
+
+void Bildfenster::ZeigeErneut() {
+  // While it is being shown again, the compositor may make the main window active once more.
+  erneut_ = IstWayland() && windowHandle()->isExposed();
+  if (erneut_)
+    hide();
+}
+
 void Bildfenster::showEvent(QShowEvent *ereignis) {
   ErlaubeTab(this);
-  if (!ereignis->spontaneous())
-    setFocus();  // Otherwise Qt focuses the first button.
+  if (!ereignis->spontaneous() && !std::exchange(erneut_, false))
+    Form_Activate();
   QDialog::showEvent(ereignis);
 }
 

@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QShortcut>
-#include <QShowEvent>
 #include <QValidator>
 #include <algorithm>
 
@@ -50,7 +49,7 @@ class Speicherbares : public QValidator {
 }  // namespace
 
 frmBeste::frmBeste(QWidget *hauptfenster, Ansicht &ansicht)
-    : Bildfenster(hauptfenster, kFesterRahmen, "beste", {0, 0, 5130, 4845}),
+    : Bildfenster(hauptfenster, Qt::Dialog | kFesterRahmen, "beste", {0, 0, 5130, 4845}),
       hauptfenster_(hauptfenster),
       ansicht_(ansicht) {
   setWindowTitle("Beste Spieler ");
@@ -99,12 +98,6 @@ void frmBeste::ZeigeZumEintragen() {
   exec();
 }
 
-void frmBeste::showEvent(QShowEvent *ereignis) {
-  Bildfenster::showEvent(ereignis);
-  if (!ereignis->spontaneous())  // Minimising must not delete the name that was typed.
-    Form_Activate();
-}
-
 void frmBeste::closeEvent(QCloseEvent *ereignis) {
   emit Entladen();  // A name that was not confirmed is lost.
   deleteLater();
@@ -119,6 +112,7 @@ void frmBeste::keyPressEvent(QKeyEvent *ereignis) {
 }
 
 void frmBeste::Form_Activate() {
+  Bildfenster::Form_Activate();
   const Bestenliste &beste = spiel.Beste;
   const auto jemand = [](const std::string &name) { return name != kNiemand; };
   lblClear_->setVisible(!beste.BestenEintrag && std::ranges::any_of(beste.lstName, jemand));
@@ -156,8 +150,6 @@ void frmBeste::EingabeSperren() {
 
 void frmBeste::cmdEnde_Click() {
   Bestenliste &beste = spiel.Beste;
-  beste.lstName.resize(kBeste);  // A failed load may have left the lists short.
-  beste.lstPunkte.resize(kBeste);
   if (beste.BestenEintrag) {
     const std::string name = Element(txtSpieler_, beste.BestenPlatz)->text().toStdString();
     Element(beste.lstName, beste.BestenPlatz) = name.empty() ? kNeuerSpieler : name;

@@ -29,12 +29,11 @@ class frmBeste : public Bildfenster {
   void Entladen();
 
  protected:
-  void showEvent(QShowEvent *ereignis) override;
+  void Form_Activate() override;
   void closeEvent(QCloseEvent *ereignis) override;
   void keyPressEvent(QKeyEvent *ereignis) override;
 
  private:
-  void Form_Activate();
   void PunkteZeigen();
   void EingabeSperren();
   void cmdEnde_Click();

@@ -1,5 +1,6 @@
 #include "dialogs/frmHintergrund.h"
 
+#include <QDialog>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -32,14 +33,17 @@ void frmHintergrund::paintEvent(QPaintEvent *) {
 }
 
 void frmHintergrund::mousePressEvent(QMouseEvent *) {
+  const bool minimiert = hauptfenster_->isMinimized();
   hauptfenster_->setWindowState(hauptfenster_->windowState() & ~Qt::WindowMinimized);
   QList<QWidget *> fenster{hauptfenster_};
-  for (QWidget *anderes : hauptfenster_->findChildren<QWidget *>()) {
-    if (anderes->windowType() == Qt::Dialog && !anderes->isHidden())
+  for (QDialog *anderes : hauptfenster_->findChildren<QDialog *>()) {
+    if (!anderes->isHidden())
       fenster.append(anderes);
   }
   for (QWidget *eines : fenster) {
     eines->raise();
-    eines->activateWindow();  // Some window managers raise a window only when it is activated.
+    if (!minimiert)             // Else it would take the focus when it is shown again.
+      eines->activateWindow();  // Some window managers raise a window only when it is activated.
   }
+  (fenster.last()->isModal() ? fenster.last() : hauptfenster_)->activateWindow();
 }

@@ -46,7 +46,7 @@ const Bildeintrag kNehmen{"cmdNehmen", {4380, 5940, 2865, 630}, "knopfUebernehme
 }  // namespace
 
 frmOptionen::frmOptionen(QWidget *hauptfenster, Ansicht &ansicht)
-    : Bildfenster(hauptfenster, kFesterRahmen, "optionen", {0, 0, 7260, 6720}),
+    : Bildfenster(hauptfenster, Qt::Dialog | kFesterRahmen, "optionen", {0, 0, 7260, 6720}),
       ansicht_(ansicht),
       imgLevel_(this, kStufen, kStufeneintraege, [this](int stufe) { imgLevel_Click(stufe); }),
       imgModus_(this, kModuswahl, kModuseintraege, [this](int modus) { imgModus_Click(modus); }),

@@ -87,7 +87,7 @@ const std::vector<Knopfeintrag> kKnoepfe{  // imgNextLevel and cmdWiederholen: a
 
 frmSpielfeld::frmSpielfeld() {
   setWindowTitle(QString::fromStdString(Versionstext()));
-  setWindowFlag(Qt::MSWindowsFixedSizeDialogHint);
+  setWindowFlags(Qt::Window | kFesterRahmen | Qt::WindowMinimizeButtonHint);
   auto *flaeche = new Bild(this, kFlaeche);
   flaeche->setFixedSize(Rechteck(kClientflaeche).size());
   setCentralWidget(flaeche);
@@ -108,6 +108,19 @@ frmSpielfeld::frmSpielfeld() {
   adjustSize();
   Zentriere();
   BehalteGroesse(this);
+  for (const QScreen *schirm : QGuiApplication::screens())
+    connect(schirm, &QScreen::availableGeometryChanged, this, &frmSpielfeld::BleibeAufSchirm,
+            Qt::QueuedConnection);
+  connect(qApp, &QGuiApplication::screenRemoved, this, &frmSpielfeld::BleibeAufSchirm,
+          Qt::QueuedConnection);
+}
+
+void frmSpielfeld::BleibeAufSchirm() {
+  const QPoint vorher = pos();
+  if (!screen()->availableGeometry().contains(frameGeometry()))
+    Zentriere();
+  for (QDialog *fenster : findChildren<QDialog *>())
+    fenster->move(fenster->pos() + pos() - vorher);
 }
 
 frmSpielfeld::~frmSpielfeld() = default;
@@ -223,9 +236,12 @@ void frmSpielfeld::BeendeDasSpiel() {
 
 bool frmSpielfeld::event(QEvent *ereignis) {
   const bool gesperrt = ereignis->type() == QEvent::WindowBlocked;
-  QWidget *wartend = QApplication::activeModalWidget();
-  if (ereignis->type() == QEvent::WindowActivate && wartend)
-    wartend->activateWindow();  // The focus belongs to the modal window.
+  QWidget *modal = QApplication::activeModalWidget();
+  if (ereignis->type() == QEvent::WindowActivate && modal) {
+    modal->activateWindow();  // The focus belongs to the modal window.
+    if (auto *fenster = qobject_cast<Bildfenster *>(modal))
+      fenster->ZeigeErneut();
+  }
   // Assistive technology can trigger menu entries while a modal window is open.
   if (gesperrt || ereignis->type() == QEvent::WindowUnblocked) {
     for (QActionGroup *eintraege : findChildren<QActionGroup *>())
@@ -301,7 +317,6 @@ void frmSpielfeld::imgEinstellungen_Click() {
   frmOptionen optionen(this, *this);
   optionen.Platziere(this, Fensterlage::LinksOben);
   optionen.exec();
-  activateWindow();  // With two windows closed at once, some window managers lose the focus.
 }
 
 void frmSpielfeld::imgBester_Click() {

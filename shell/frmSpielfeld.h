@@ -75,6 +75,8 @@ class frmSpielfeld final : public QMainWindow, public Ansicht {
   void PfeileAufbauen(QWidget *flaeche);
   /// Centres the window with its frame on its screen.
   void Zentriere();
+  /// Moves the game with its open windows into its screen, which has become smaller.
+  void BleibeAufSchirm();
   void Form_Unload();
 
   Spielbrett *Picture1_ = nullptr;

@@ -187,31 +187,60 @@ def sound(path):
 
 
 def desktop(path):
-    """The game starts above its cover, stays minimised, comes back by a click on the cover, and an
-    open question survives such a click."""
-    def is_minimised():
-        return any("Iconic" in output("xprop", "-id", window, "WM_STATE")
-                   for window in output("xdotool", "search", "--name", TITLE).split())
-
-    def click_cover():
-        xdotool("mousemove", 5, 500, "click", 1, "sleep", 0.5)
-
+    """The contract with the desktop, as the X server tells it: what the window manager may do, who has
+    the focus after each step, where a message stands."""
     program, mouse = Program(path), Mouse()
     program.button("Neues Spiel")
     time.sleep(1)  # The cover paints, and the manager puts the frame around the window.
+    game = output("xdotool", "search", "--onlyvisible", "--name", TITLE).strip()
+
+    def answer(question, *names):
+        return output(question, "-id", game, *names)
+
+    def focus():
+        window = output("xdotool", "getwindowfocus").strip()
+        return "game" if window == game else output("xdotool", "getwindowname", window)
+
+    def middle(window):
+        left, top, width, height = map(int, re.findall(
+            r"(?:Absolute upper-left [XY]|Width|Height): +(\S+)", output("xwininfo", "-id", window)))
+        return left + width // 2, top + height // 2
+
+    def click_cover():
+        xdotool("mousemove", 5, 500, "click", 1)
+
+    def click_board():
+        mouse.click(program.cells()[99], 2)
+
+    def ask():
+        mouse.click(program.button("Beenden"))
+
     mouse.click(program.button("Neues Spiel"))  # Reaches it only above the cover.
     wait_for(lambda: program.read()["Level"] == 1, "game above the cover")
-    if os.environ.get("MANAGER", "openbox") not in ("", "i3"):
-        xdotool("search", "--name", TITLE, "windowminimize", "sleep", 1.5)
-        wait_for(is_minimised, "minimised game")
+    allowed = int(answer("xprop", "_MOTIF_WM_HINTS").split()[3].strip(","), 16)
+    sizes = re.findall(r"m size: (.*)", answer("xprop", "WM_NORMAL_HINTS"))
+    if allowed & 0x3C != 0x2C or sizes[0] != sizes[1]:  # 0x10 is to maximise.
+        raise Deviation(hex(allowed), sizes)
+    manager = os.environ.get("MANAGER", "openbox")
+    for step, wanted in ((lambda: mouse.key("alt+i", "b"), BEST),
+                         (click_board, "game"),
+                         (click_cover, "game"), (ask, TITLE), (click_cover, TITLE),
+                         (click_board, TITLE), (lambda: mouse.key("Escape"), "game")):
+        step()
+        time.sleep(0.5)  # Nothing may take the focus later.
+        wait_for(lambda: focus().startswith(wanted), f"{wanted} has the focus", 10)
+    if manager not in ("", "i3"):
+        xdotool("windowminimize", game, "sleep", 1.5)
+        wait_for(lambda: "Iconic" in answer("xprop", "WM_STATE"), "minimised game")
         click_cover()
-        wait_for(lambda: not is_minimised() and has(program.main_window(), pyatspi.STATE_ACTIVE),
+        wait_for(lambda: "Normal" in answer("xprop", "WM_STATE") and focus() == "game",
                  "game that comes back")
-    mouse.click(program.button("Beenden"))
-    program.button("Nein", TITLE)
-    click_cover()
-    mouse.click(program.button("Nein", TITLE))
-    wait_for(lambda: not program.window(TITLE), "question above the game")
+    xdotool("windowmove", game, 330, 160, "sleep", 1)
+    ask()
+    wait_for(lambda: focus().startswith(TITLE), "question")
+    distance = [a - b for a, b in zip(middle(game), middle(output("xdotool", "getwindowfocus").strip()))]
+    if abs(distance[0]) > 1 or not 0 <= distance[1] < 20:  # The frame is higher above than below.
+        raise Deviation("the question is not in the middle", distance)
 
 
 if __name__ == "__main__":

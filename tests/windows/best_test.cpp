@@ -80,12 +80,13 @@ TEST_F(BestWindow, ForReadingAllIsLockedUntilAnEntryTakesTheWindow) {
   Tell("entry");
 }
 
-TEST_F(BestWindow, AShortListIsFullAfterOkAndWhatWasNotClearedIsTold) {
-  WriteFile(DataFile("sarant.txt"), "");
+TEST_F(BestWindow, AShortListIsFilledByAnEntryAndWhatWasNotClearedIsTold) {
+  WriteFile(DataFile("sarant.txt"), "A\r\nB\r\n");
   ThenAnswer("Esc");
   Window().ZeigeZumLesen();
   Tell("short");
   Ok();
+  Enter(40, [this](frmBeste &) { Ok(); });
   Window().ZeigeZumLesen();
   Tell("full");
   QFile::remove(DataFile("sarant.txt"));

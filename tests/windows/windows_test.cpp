@@ -95,9 +95,8 @@ TEST_F(Messages, EachPressCountsUnlessAWindowHasJustClosedThere) {
   };
   EXPECT_TRUE(Toggles(cell, QEvent::MouseButtonPress, 100'000));
   EXPECT_TRUE(Toggles(cell + 1, QEvent::MouseButtonDblClick, 100'100));
-  Then<frmMsgOk>([&](frmMsgOk &window) {
-    Send(Find(window, "lblOk"), QEvent::MouseButtonPress, 200'000);
-  });
+  Then<frmMsgOk>(
+      [&](frmMsgOk &window) { Send(Find(window, "lblOk"), QEvent::MouseButtonPress, 200'000); });
   board->Melde(MeldungInfo);
   EXPECT_FALSE(Toggles(cell, QEvent::MouseButtonDblClick, 200'090));
   EXPECT_FALSE(Toggles(cell, QEvent::MouseButtonPress, 200'400));
