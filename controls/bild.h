@@ -53,6 +53,8 @@ class Bild : public QWidget {
   void SetzeDruck(std::function<void(Qt::MouseButton)> druck) { druck_ = std::move(druck); }
 
   QAccessible::Role Rolle() const { return rolle_; }
+  /// What a screen reader says of the control.
+  virtual QString Ansage() const { return accessibleName(); }
   bool IstBedienbar() const { return klick_ || druck_; }
   /// True if the right mouse button acts, too.
   bool IstZweitastig() const { return static_cast<bool>(druck_); }

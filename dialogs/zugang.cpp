@@ -29,8 +29,8 @@ class Zugang : public QAccessibleWidget {
   QList<QWidget *> Kinder() const {
     QList<QWidget *> kinder = widget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
     kinder.removeIf([](const QWidget *kind) {
-      const bool stumm = qobject_cast<const Bild *>(kind) && kind->accessibleName().isEmpty();
-      return stumm || kind->isWindow() || kind->isHidden();
+      const auto *bild = qobject_cast<const Bild *>(kind);
+      return (bild && bild->Ansage().isEmpty()) || kind->isWindow() || kind->isHidden();
     });
     return kinder;
   }
@@ -48,6 +48,10 @@ class ZugangBild : public Zugang {
     zustand.checked = wahl && DasBild().IstGewaehlt();
     zustand.focusable = DasBild().IstBedienbar();
     return zustand;
+  }
+
+  QString text(QAccessible::Text art) const override {
+    return art == QAccessible::Name ? DasBild().Ansage() : Zugang::text(art);
   }
 
   QStringList actionNames() const override {
@@ -92,7 +96,8 @@ void SageAn(QWidget *element, const QString &text) {
   if (!QAccessible::isActive())
     return;
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-  if (text == element->accessibleName() || text == element->accessibleDescription())
+  const QAccessibleInterface *zugang = QAccessible::queryAccessibleInterface(element);
+  if (text == zugang->text(QAccessible::Name) || text == zugang->text(QAccessible::Description))
     return;  // A screen reader speaks the change of the focused control.
   QAccessibleAnnouncementEvent ansage(element, text);
   QAccessible::updateAccessibility(&ansage);

@@ -51,25 +51,36 @@ QByteArray Name(const char *stamm, int nummer) {
 
 Zellenbild::Zellenbild(QWidget *eltern, int nummer)
     : Bild(eltern, {Name("imgSar", nummer), Zellenlage(nummer), "", "", ""}), nummer_(nummer) {
-  Aktualisiere();
+  SetzeBild(Kachelbild(kachel_));
 }
 
 void Zellenbild::SetzeKachel(Kachel kachel) {
   if (kachel_ == kachel)
     return;
   kachel_ = kachel;
-  Aktualisiere();
+  SetzeBild(Kachelbild(kachel_));
+  if (hasFocus()) {
+    MeldeNamen();
+    SageAn(this, Ansage());
+  }
 }
 
-void Zellenbild::Aktualisiere() {
-  SetzeBild(Kachelbild(kachel_));
+QString Zellenbild::Ansage() const {
   constexpr std::array kWoerter{"verdeckt", "markiert", "Fehler", "Sarant"};
-  setAccessibleName(QString("Zeile %1, Spalte %2: %3")
-                        .arg(ZeileVon(nummer_))
-                        .arg(SpalteVon(nummer_))
-                        .arg(Element(kWoerter, kachel_)));
-  if (hasFocus())
-    SageAn(this, accessibleName());
+  return QString("Zeile %1, Spalte %2: %3")
+      .arg(ZeileVon(nummer_))
+      .arg(SpalteVon(nummer_))
+      .arg(Element(kWoerter, kachel_));
+}
+
+void Zellenbild::focusInEvent(QFocusEvent *ereignis) {
+  MeldeNamen();
+  Bild::focusInEvent(ereignis);
+}
+
+void Zellenbild::MeldeNamen() {
+  QAccessibleEvent name(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&name);
 }
 
 Zahlenbild::Zahlenbild(QWidget *eltern, bool spalte, int linie, int k)

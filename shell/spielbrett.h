@@ -15,9 +15,15 @@ class Zellenbild : public Bild {
 
   Kachel LiesKachel() const { return kachel_; }
   void SetzeKachel(Kachel kachel);
+  QString Ansage() const override;
+
+ protected:
+  void focusInEvent(QFocusEvent *ereignis) override;
 
  private:
-  void Aktualisiere();
+  /// Only for the focused cell: Orca drops announcements while many events wait, and a new level
+  /// changes most cells. Each cell that gets the focus needs it, for clients keep names.
+  void MeldeNamen();
 
   int nummer_;
   Kachel kachel_ = Kachel::Verdeckt;
