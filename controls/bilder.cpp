@@ -51,9 +51,7 @@ QPixmap Lade(const QString &name, double geraetepixel) {
   return fertig;
 }
 
-QString Reihenbild(const char *stamm, int index) {
-  return stamm + QString::number(index);
-}
+QString Reihenbild(const char *stamm, int index) { return stamm + QString::number(index); }
 
 }  // namespace
 
@@ -74,9 +72,7 @@ void LadeSpielbilder(double geraetepixel) {
     Katalogbild(Kachelbild(kachel), geraetepixel);
 }
 
-int GeladeneBilder() {
-  return katalog.geladen;
-}
+int GeladeneBilder() { return katalog.geladen; }
 
 QPixmap Streckbild(const QString &name, const QSizeF &ziel) {
   const QPixmap bild(Ressource(name, 1));
@@ -100,12 +96,6 @@ QString frmBilder::imgPfeil(int phase) {
 QString frmBilder::imgPfeilhoch(int phase) {
   return phase == kKeinPfeil ? QString() : Reihenbild("pfeilhoch", phase);
 }
-QString frmZahlen::imgZahl(int zahl) {
-  return Reihenbild("zahl", zahl);
-}
-QString frmDigital::imgDiggi(int ziffer) {
-  return Reihenbild("gruen", ziffer);
-}
-QString frmDigital::imgRot(int ziffer) {
-  return Reihenbild("rot", ziffer);
-}
+QString frmZahlen::imgZahl(int zahl) { return Reihenbild("zahl", zahl); }
+QString frmDigital::imgDiggi(int ziffer) { return Reihenbild("gruen", ziffer); }
+QString frmDigital::imgRot(int ziffer) { return Reihenbild("rot", ziffer); }

@@ -12,17 +12,11 @@ double massstab = 1;
 
 }  // namespace
 
-double Massstab() {
-  return massstab;
-}
+double Massstab() { return massstab; }
 
-void StelleMassstab(double faktor) {
-  massstab = faktor;
-}
+void StelleMassstab(double faktor) { massstab = faktor; }
 
-int Pixel(int twips) {
-  return qRound(massstab * twips / kTwipsJePixel);
-}
+int Pixel(int twips) { return qRound(massstab * twips / kTwipsJePixel); }
 
 QRect Rechteck(const Twips &lage) {
   return {Pixel(lage.left), Pixel(lage.top), Pixel(lage.width), Pixel(lage.height)};

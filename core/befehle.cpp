@@ -16,9 +16,7 @@ void VerbucheLevelpunkte() {
   spiel.Levelpunkte = 0;
 }
 
-std::int16_t NaechstePhase(std::int16_t phase) {
-  return phase == 0 ? 1 : 0;
-}
+std::int16_t NaechstePhase(std::int16_t phase) { return phase == 0 ? 1 : 0; }
 
 }  // namespace
 
@@ -79,9 +77,7 @@ void NaechsterLevelBlinkt(Ansicht &ansicht) {
   spiel.WeiterBlinkphase = NaechstePhase(spiel.WeiterBlinkphase);
 }
 
-bool NeueBestmarke() {
-  return spiel.Punkte > spiel.Bestenschwelle;
-}
+bool NeueBestmarke() { return spiel.Punkte > spiel.Bestenschwelle; }
 
 std::int32_t PunkteFuerStart(int uebersprungen, int modus) {
   if (uebersprungen == 0)

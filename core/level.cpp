@@ -67,9 +67,7 @@ std::int16_t StartfelderFuer(int level, int modus) {
   return Element(BereichMit(level, kStartfelder), modus - 1);
 }
 
-std::int16_t FreifelderFuer(int level) {
-  return BereichMit(level, kFreifelder);
-}
+std::int16_t FreifelderFuer(int level) { return BereichMit(level, kFreifelder); }
 
 void SpielBeginnen(Ansicht &ansicht) {
   spiel.Punkte = kStartpunkte;

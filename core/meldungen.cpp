@@ -14,9 +14,7 @@ const char *const kWaehleModus =
 const char *const kKlickNaechsterLevel = "Klicken Sie auf »Nächster Level«";
 const char *const kKlickWiederholen = "Klicken Sie auf »Wiederholen«";
 
-std::string GewaehlterModus(int modus) {
-  return "Spielmodus  :  " + ModusName(modus);
-}
+std::string GewaehlterModus(int modus) { return "Spielmodus  :  " + ModusName(modus); }
 
 std::string Moduszeile(int leerzeichen) {
   return "Spielmodus:" + std::string(static_cast<std::size_t>(leerzeichen), ' ') +

@@ -24,9 +24,7 @@ inline constexpr int kBeste = 5;  ///< Entries of the best list, numbered from 0
 enum class Kachel { Verdeckt, Markiert, Fehler, Sarant };
 
 /// Gems of a level.
-constexpr std::int16_t SarantenFuer(int level) {
-  return static_cast<std::int16_t>(76 - level);
-}
+constexpr std::int16_t SarantenFuer(int level) { return static_cast<std::int16_t>(76 - level); }
 
 /// An element of an array or vector by a signed index or an enumerator. Checks the bounds.
 template <typename Reihe, typename Index>
@@ -91,6 +89,4 @@ inline constexpr std::int16_t kAbgebrochen = 3;
 std::int32_t SummePunkte();
 
 /// The name of a mode. @param modus   1 to 3.
-inline const std::string &ModusName(int modus) {
-  return Element(spiel.ModusNamen, modus - 1);
-}
+inline const std::string &ModusName(int modus) { return Element(spiel.ModusNamen, modus - 1); }

@@ -4,12 +4,8 @@
 #include "core/ansicht.h"
 
 // Columns and rows are numbered from 1.
-constexpr int ZeileVon(int zelle) {
-  return (zelle - 1) / kLinie + 1;
-}
-constexpr int SpalteVon(int zelle) {
-  return (zelle - 1) % kLinie + 1;
-}
+constexpr int ZeileVon(int zelle) { return (zelle - 1) / kLinie + 1; }
+constexpr int SpalteVon(int zelle) { return (zelle - 1) % kLinie + 1; }
 
 /// The number of a clue place. @param k   its position in the line: 1, next to the board, to 5.
 constexpr int PlatzVon(bool spalte, int linie, int k) {

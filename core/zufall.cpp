@@ -10,9 +10,7 @@ std::uint64_t LiesUhr() {
   return static_cast<std::uint64_t>(kalender) ^ std::rotl(static_cast<std::uint64_t>(stetig), 32);
 }
 
-void Zufall::Saee() {
-  generator_.seed(Uhr());
-}
+void Zufall::Saee() { generator_.seed(Uhr()); }
 
 double Zufall::Zahl() {
   // A double has 53 bits of mantissa. More bits could round the result up to 1.

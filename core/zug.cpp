@@ -13,9 +13,7 @@ constexpr int kBlinkenGewonnen = 300;  // milliseconds
 constexpr int kBlinkenVerloren = 400;  // milliseconds
 
 /// False until the first level has begun.
-bool HatSaranten() {
-  return std::ranges::any_of(spiel.Feld, &Zelle::IstSarant);
-}
+bool HatSaranten() { return std::ranges::any_of(spiel.Feld, &Zelle::IstSarant); }
 
 void LevelGewonnen(Ansicht &ansicht) {
   LevelwertungZeigen(ansicht);

@@ -88,9 +88,7 @@ QAccessibleInterface *Fabrik(const QString &, QObject *objekt) {
 
 }  // namespace
 
-void RichteZugangEin() {
-  QAccessible::installFactory(Fabrik);
-}
+void RichteZugangEin() { QAccessible::installFactory(Fabrik); }
 
 void SageAn(QWidget *element, const QString &text) {
   if (!QAccessible::isActive())

@@ -9,13 +9,9 @@ constexpr std::int16_t kUngelesen = -1;  ///< Also valid in the file, where it m
 
 }  // namespace
 
-QString IniPfad() {
-  return Datenpfad("sarant.ini");
-}
+QString IniPfad() { return Datenpfad("sarant.ini"); }
 
-void SchreibeIni() {
-  SchreibeZeilen(IniPfad(), {QString::number(spiel.Spielmodus)});
-}
+void SchreibeIni() { SchreibeZeilen(IniPfad(), {QString::number(spiel.Spielmodus)}); }
 
 void LeseIni(Ansicht &ansicht) {
   std::int16_t modus = 0;

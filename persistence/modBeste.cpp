@@ -56,9 +56,7 @@ std::int32_t PunkteWert(const std::string &text) {
   return wert;
 }
 
-QString BestenlistePfad() {
-  return Datenpfad("sarant.txt");
-}
+QString BestenlistePfad() { return Datenpfad("sarant.txt"); }
 
 bool BestenlisteAnlegen() {
   QStringList zeilen(kBeste, QString::fromStdString(kNiemand));

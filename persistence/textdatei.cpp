@@ -104,9 +104,7 @@ Dateifehler SchreibeZeilen(const QString &pfad, const QStringList &zeilen) {
   return fehler == Dateifehler::Keiner ? Ersetze(pfad, inhalt) : fehler;
 }
 
-QString Speicherbar(const QString &text) {
-  return AusCodepage(Kodiert(text, ""));
-}
+QString Speicherbar(const QString &text) { return AusCodepage(Kodiert(text, "")); }
 
 template <typename Zahl>
 Dateifehler InZahl(const QString &text, Zahl &wert) {

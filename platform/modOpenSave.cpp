@@ -24,6 +24,4 @@ QString DateiSpeichernDialog(QWidget *besitzer, const QString &ordner) {
       .trimmed();
 }
 
-QString Dateititel(const QString &pfad) {
-  return QFileInfo(pfad).fileName();
-}
+QString Dateititel(const QString &pfad) { return QFileInfo(pfad).fileName(); }

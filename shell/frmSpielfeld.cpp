@@ -172,17 +172,11 @@ void frmSpielfeld::SetzeModustext(const std::string &text) {
     SageAn(lblModus_, jetzt);
 }
 
-void frmSpielfeld::FaerbeModustext() {
-  lblModus_->SetzeFarbe(kBlau);
-}
+void frmSpielfeld::FaerbeModustext() { lblModus_->SetzeFarbe(kBlau); }
 
-void frmSpielfeld::ZeigeModuswahl() {
-  imgModus_->Waehle(spiel.Spielmodus);
-}
+void frmSpielfeld::ZeigeModuswahl() { imgModus_->Waehle(spiel.Spielmodus); }
 
-void frmSpielfeld::VerbergeModuswahl() {
-  imgModus_->Verberge();
-}
+void frmSpielfeld::VerbergeModuswahl() { imgModus_->Verberge(); }
 
 void frmSpielfeld::Zeige(Bedienung bedienung, bool sichtbar) {
   bedienungen_.at(bedienung)->setVisible(sichtbar);
@@ -225,9 +219,7 @@ void frmSpielfeld::BestenlistePruefen() {
   ::BestenlistePruefen(*this);
 }
 
-void frmSpielfeld::ZeigeBesteneintrag() {
-  Bestenfenster().ZeigeZumEintragen();
-}
+void frmSpielfeld::ZeigeBesteneintrag() { Bestenfenster().ZeigeZumEintragen(); }
 
 void frmSpielfeld::BeendeDasSpiel() {
   spiel.Punkte = 0;
@@ -324,9 +316,7 @@ void frmSpielfeld::imgBester_Click() {
   Zeige(Bedienung::imgBester, false);
 }
 
-void frmSpielfeld::lblAnleitung_Click() {
-  OeffneHilfe("saranten.pdf");
-}
+void frmSpielfeld::lblAnleitung_Click() { OeffneHilfe("saranten.pdf"); }
 
 void frmSpielfeld::mnuInfo4_Click() {
   SpieleSound(kSoundBlip);

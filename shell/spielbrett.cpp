@@ -43,9 +43,7 @@ Twips Platzlage(bool spalte, int linie, int k) {
   return lage;
 }
 
-QByteArray Name(const char *stamm, int nummer) {
-  return stamm + QByteArray::number(nummer);
-}
+QByteArray Name(const char *stamm, int nummer) { return stamm + QByteArray::number(nummer); }
 
 }  // namespace
 

@@ -26,9 +26,7 @@ const char *const kOhneBildschirm =
     "Glanzgrube findet keinen Bildschirm. In einer Wayland-Sitzung braucht das Spiel das Paket "
     "»qt6-wayland« oder »xwayland«.";
 
-bool IstWayland() {
-  return QGuiApplication::platformName().startsWith("wayland");
-}
+bool IstWayland() { return QGuiApplication::platformName().startsWith("wayland"); }
 
 void OhneTaskleiste(QWindow *fenster) {
   auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();

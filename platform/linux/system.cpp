@@ -17,13 +17,9 @@ QString Datenwurzel() {
   return !wurzel.isEmpty() && QDir().mkpath(wurzel) ? wurzel : QString();
 }
 
-void OeffneDokument(const QString &pfad) {
-  QDesktopServices::openUrl(QUrl::fromLocalFile(pfad));
-}
+void OeffneDokument(const QString &pfad) { QDesktopServices::openUrl(QUrl::fromLocalFile(pfad)); }
 
-bool Synchronisiere(int datei) {
-  return fsync(datei) == 0;
-}
+bool Synchronisiere(int datei) { return fsync(datei) == 0; }
 
 unsigned Tastenplatz(const QKeyEvent &taste) {
   constexpr unsigned kVersatz = 8;  // X11 adds it to a scan code, and Wayland does the same.

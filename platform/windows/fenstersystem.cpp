@@ -6,9 +6,7 @@
 
 const char *const kOhneBildschirm = "Glanzgrube findet keinen Bildschirm.";
 
-bool IstWayland() {
-  return false;
-}
+bool IstWayland() { return false; }
 
 void OhneTaskleiste(QWindow *fenster) {
   if (fenster->transientParent())  // Windows gives an owned window no entry.

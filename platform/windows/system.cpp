@@ -21,10 +21,6 @@ void OeffneDokument(const QString &pfad) {
   ShellExecuteW(nullptr, L"open", dokument.c_str(), nullptr, nullptr, SW_SHOWMAXIMIZED);
 }
 
-bool Synchronisiere(int datei) {
-  return _commit(datei) == 0;
-}
+bool Synchronisiere(int datei) { return _commit(datei) == 0; }
 
-unsigned Tastenplatz(const QKeyEvent &taste) {
-  return taste.nativeScanCode();
-}
+unsigned Tastenplatz(const QKeyEvent &taste) { return taste.nativeScanCode(); }
