@@ -126,7 +126,7 @@ def machine():
     qt = subprocess.check_output(["qtpaths6", "--qt-version"], text=True).strip()
     memory_gb = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / 2**30
     return (f"{os.cpu_count()} cores of {processor}, {memory_gb:.0f} GB, {system}, Linux "
-            f"{platform.release()}, Qt {qt}, Xvfb 1280x1024; load average at the end "
+            f"{platform.release()}, Qt {qt}, Xvfb {os.environ['SCREEN']}; load average at the end "
             f"{os.getloadavg()[0]:.1f}; {time.strftime('%Y-%m-%d')}")
 
 

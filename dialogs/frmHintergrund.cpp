@@ -25,11 +25,11 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster)
 }
 
 void frmHintergrund::paintEvent(QPaintEvent *) {
-  if (Image1_.isNull())
-    Image1_ = Streckbild("schreibtisch", size() * devicePixelRatioF());
+  // Not kept: the window system holds what was painted, and the picture takes several megabytes.
+  const QPixmap Image1 = Streckbild("schreibtisch", size() * devicePixelRatioF());
   QPainter maler(this);
   maler.setRenderHint(QPainter::SmoothPixmapTransform);
-  maler.drawPixmap(rect(), Image1_);
+  maler.drawPixmap(rect(), Image1);
 }
 
 void frmHintergrund::mousePressEvent(QMouseEvent *) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QPixmap>
 #include <QWidget>
 
 /// The window behind the game that covers the desktop. It never takes the focus. A click on it
@@ -18,5 +17,4 @@ class frmHintergrund : public QWidget {
 
  private:
   QWidget *hauptfenster_;
-  QPixmap Image1_;  ///< Drawn stretched to the screen; null until it is decoded.
 };
