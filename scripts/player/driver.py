@@ -1,12 +1,15 @@
 """Plays the program, and waits for what must follow from each step on the screen, in the files and
 from the speakers."""
 
+import time
+
 import pyatspi
 from program import (COVERED, GEM, MARKED, TITLE, WRONG, Bus, Deviation, Mouse, Program, has, labels,
                      lines, read_files, wait_for, walk, xdotool)
 
 BLIP, ERROR, QUESTION, START, TADA = (f"{n}.WAV" for n in ("BLIP", "FEHLER", "FRAGE", "START", "TADA"))
 BEST, OPTIONS = "Beste Spieler ", "Form1"
+DOUBLE_CLICK = 0.5  # seconds; a press that follows sooner where a window has closed does not count
 MODES = {1: "Einfach", 2: "Normal", 3: "Experte"}
 FILES = {"sarant.ini": lines(2),
          "sarant.txt": lines(*["Niemand"] * 5, *range(15000, 12999, -500))}
@@ -102,10 +105,12 @@ class Driver:
         else:
             self.hand.key(answer)
         wait_for(lambda: self.program.has_ended() or not is_shown(), f"end of {words}")
+        time.sleep(DOUBLE_CLICK)
 
     def close(self, name, title):
         self.press(name, title=title)
         wait_for(lambda: not self.program.window(title), f"end of {title}")
+        time.sleep(DOUBLE_CLICK)
 
     def type_into(self, title, text):
         wait_for(lambda: (window := self.program.window(title)) and any(

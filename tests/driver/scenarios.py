@@ -66,7 +66,7 @@ def second_run(driver):
     driver.confirm("alle Level erfolgreich", "OK")
     driver.confirm("neue Bestmarke", "Ja", START)
     driver.type_into(BEST, "Ida Stein")
-    driver.press("OK", title=BEST)
+    driver.close("OK", BEST)
     driver.sound = False  # The last message has none.
     driver.confirm("Vielen Dank!", "OK")
     driver.program.end()
