@@ -12,7 +12,7 @@ rm -f "$sheet"
 [ -f "$approved" ] || { echo "There is no $approved."; exit 1; }
 colours=$(differ -alpha off) edges=$(differ -colorspace gray -edge 1)
 echo "$seen: colours $colours, edges $edges"
-[[ $colours -lt 16 && $edges -lt 14 ]] && exec rm "$seen"
+[[ $colours -lt 16 && $edges -lt 20 ]] && exec rm "$seen"
 convert "$approved" "$seen" \( -clone 0,1 -compose difference -composite -auto-level \) +append "$sheet"
 echo "approved, seen and the difference: $sheet"
 exit 1
