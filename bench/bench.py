@@ -21,7 +21,7 @@ from stopwatch import LIMIT, Stopwatch
 IDLE = 20.0  # seconds over which an idle minute is measured
 STARTS = 21
 CLICKS = 200
-MIDDLE = 600, 500  # lies within the window of each program that is started
+MIDDLE = 920, 520  # lies within the window of each program that is started
 TABLE = re.compile("(?<=<!-- begin of the table -->\n).*(?=<!-- end of the table -->)", re.DOTALL)
 
 
