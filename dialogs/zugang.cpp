@@ -94,9 +94,8 @@ void SageAn(QWidget *element, const QString &text) {
   if (!QAccessible::isActive())
     return;
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-  const QAccessibleInterface *zugang = QAccessible::queryAccessibleInterface(element);
-  if (text == zugang->text(QAccessible::Name) || text == zugang->text(QAccessible::Description))
-    return;  // A screen reader speaks the change of the focused control.
+  if (element->hasFocus())
+    return;  // A screen reader speaks its new name or description.
   QAccessibleAnnouncementEvent ansage(element, text);
   QAccessible::updateAccessibility(&ansage);
 #else
