@@ -70,7 +70,7 @@ class Driver:
             free.update(n for n, tile in enumerate(tiles) if tile in (MARKED, WRONG))
             if tiles.count(WRONG) == 2:
                 self.press("Wiederholen")
-                self.look(Fehlversuche=0, Punkte=self.view["Punkte"] - 100)
+                self.look(Fehlversuche=0, Punkte=max(0, self.view["Punkte"] - 100))
             elif unknown := set(range(100)) - gems - free:
                 self.open(unknown.pop())
             else:

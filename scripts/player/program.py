@@ -158,10 +158,12 @@ class Program:
     def end(self):
         """The process must have ended well, said nothing, and written into its own folder only."""
         result, said = self.process.wait(60), (STAGE / "stderr").read_text().splitlines()
-        # The table of Qt's own file dialog complains of what it tells the bus, and Qt 6.8 of a question
-        # for an element whose window was closed while the question was under way.
-        said = [line for line in said if not line.startswith(
-            ("QAccessibleTable::child", "qt.accessibility.atspi: Could not find accessible on path"))]
+        # The table of Qt's own file dialog complains of what it tells the bus, and Qt of a screen reader that
+        # answers late, listens to more than Qt knows, or asks for an element of a window just closed.
+        said = [line for line in said if not line.startswith((
+            "QAccessibleTable::child", "QSpiApplication::",
+            "qt.accessibility.atspi: Subscription string not handled",
+            "qt.accessibility.atspi: Could not find accessible on path"))]
         said += (STAGE / ".config").rglob("Qt*")
         if result or said:
             raise Deviation(f"ended with {result}", *said)

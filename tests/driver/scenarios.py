@@ -16,8 +16,12 @@ from pathlib import Path
 import pyatspi
 from audio import Audio
 from driver import BEST, BLIP, MODES, OPTIONS, QUESTION, START, Driver
-from program import (COVERED, GEM, MARKED, STAGE, TITLE, WRONG, Bus, Deviation, Mouse, Program, has,
-                     lines, output, put, read_files, wait_for, walk, xdotool)
+from program import (GEM, MARKED, STAGE, TITLE, WRONG, Bus, Deviation, Mouse, Program, has, lines,
+                     output, put, read_files, wait_for, xdotool)
+from reader import Orca
+
+SHORT = {"(title)": r"Glanzgrube Vers.: \S+", "(cell)": r"Zeile \d+, Spalte \d+:",
+         "(level)": "Spielmodus: Einfach Es sind 75 Saranten auf dem Spielfeld"}
 
 
 def first_run(driver):
@@ -110,26 +114,52 @@ def tour(path):
 
 
 def keyboard(path):
-    """What has the focus after the keys of each line of a list, and what a screen reader says of it."""
-    def heard():
-        focus = next((e for e in walk(program.app, board=True) if has(e, pyatspi.STATE_FOCUSED)), None)
-        return f"{focus.name} / {focus.description}".removesuffix(" / ") if focus else ""
+    """What Orca speaks after the keys of each line of a list: a level from the new game to the win, and
+    what else a player meets."""
+    def learn():
+        driver.files = read_files()
+        driver.look(Level=1, Punkte=500)
+        gems.update(driver.learn())
+        while WRONG not in driver.program.tiles():
+            driver.open((set(driver.covered()) - gems).pop())
 
-    def press(keys, wanted):
-        Mouse().key(*keys.split(","))
-        wait_for(lambda: re.fullmatch(wanted, heard()), f"{wanted} after {keys}")
+    def win():
+        for cell in sorted(gems.intersection(driver.covered()))[:-1]:
+            driver.open(cell)
 
-    program = Program(path)
-    wait_for(lambda: has(program.main_window(), pyatspi.STATE_ACTIVE), "the active window")
+    def focus():
+        return next(n for n, cell in enumerate(driver.program.cells()) if has(cell, pyatspi.STATE_FOCUSED))
+
+    def walk_to(is_gem):
+        """Walks to the first covered cell of a kind. Orca must be there before the next key."""
+        start, goal = focus(), next(n for n in driver.covered() if (n in gems) == is_gem)
+        down, right = goal // 10 - start // 10, goal % 10 - start % 10
+        if start != goal:
+            keys = "Down," * down + "Up," * -down + "Right," * right + "Left," * -right
+            orca.press(keys[:-1], rf".*Zeile {goal // 10 + 1}, Spalte {goal % 10 + 1}: verdeckt button")
+
+    def row():
+        tens = focus() // 10 * 10
+        line = "".join("x" if n in gems else " " for n in range(tens, tens + 10))
+        return ", ".join(str(len(run)) for run in line.split())
+
+    put("sarant.txt", *["Niemand"] * 5, *[-30000] * 5)  # Any score is a new best.
+    audio = Audio(path)
+    orca, driver, gems = Orca(), Driver(path, audio, Bus(), sound=False), set()
     for line in Path(__file__).with_name("keyboard.txt").read_text().splitlines():
-        press(*line.split(" ", 1))
-    while COVERED not in heard():
-        press("Left", "Zeile.*")
-    for key, tile in (("shift+space", MARKED), ("space", MARKED), ("shift+space", COVERED),
-                      ("space", f"({GEM}|{WRONG})")):
-        press(key, f".*: {tile}")
-    Mouse().key("alt+s", "e", "j")
-    program.end()
+        keys, wanted = line.split(" → ")
+        for short, long in SHORT.items():
+            wanted = wanted.replace(short, long)
+        if "(row)" in wanted:
+            wanted = wanted.replace("(row)", row())
+        place, _, keys_there = keys.rpartition("),")
+        if place:
+            walk_to(place == "(gem")
+        if command := {"(learn)": learn, "(win)": win}.get(keys):
+            command()
+        said = orca.hear(wanted) if command else orca.press(keys_there, wanted)
+        print(time.strftime("%X"), keys, "→", said, flush=True)
+    driver.program.end()
 
 
 def bus(path):
