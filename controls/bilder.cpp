@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QGuiApplication>
-#include <QImage>
 #include <array>
 #include <cmath>
 #include <map>
@@ -74,11 +73,11 @@ void LadeSpielbilder(double geraetepixel) {
 
 int GeladeneBilder() { return katalog.geladen; }
 
-QPixmap Streckbild(const QString &name, const QSizeF &ziel) {
-  const QPixmap bild(Ressource(name, 1));
+QImage Streckbild(const QString &name, const QSizeF &ziel) {
+  const QImage bild(Ressource(name, 1));
   const double faktor = std::max(ziel.width() / bild.width(), ziel.height() / bild.height());
   const int aufloesung = Aufloesung(name, faktor / kStaerksteStreckung);
-  return aufloesung == 1 ? bild : QPixmap(Ressource(name, aufloesung));
+  return aufloesung == 1 ? bild : QImage(Ressource(name, aufloesung));
 }
 
 QCursor Handzeiger() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QCursor>
+#include <QImage>
 #include <QPixmap>
 #include <QString>
 
@@ -20,8 +21,8 @@ void LadeSpielbilder(double geraetepixel);
 int GeladeneBilder();
 
 /// A background picture for stretching: the smallest rendering that is enlarged at most twice, or
-/// else the largest. @param ziel   size in device pixels.
-QPixmap Streckbild(const QString &name, const QSizeF &ziel);
+/// else the largest. Decoded at each call and not kept. @param ziel   size in device pixels.
+QImage Streckbild(const QString &name, const QSizeF &ziel);
 
 /// The mouse pointer of clickable pictures.
 QCursor Handzeiger();

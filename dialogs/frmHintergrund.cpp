@@ -1,49 +1,60 @@
 #include "dialogs/frmHintergrund.h"
 
 #include <QDialog>
-#include <QMouseEvent>
-#include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
-#include <QTimer>
+#include <utility>
 
 #include "controls/bilder.h"
 #include "platform/fenstersystem.h"
 
-frmHintergrund::frmHintergrund(QWidget *hauptfenster)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
-      hauptfenster_(hauptfenster) {
-  setGeometry(hauptfenster->screen()->geometry());
-  setFixedSize(size());
-  setAttribute(Qt::WA_OpaquePaintEvent);
+frmHintergrund::frmHintergrund(QWidget *hauptfenster) : hauptfenster_(hauptfenster) {
+  setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
+  setScreen(hauptfenster->screen());
+  setGeometry(screen()->geometry());
+  setMinimumSize(size());
+  setMaximumSize(size());
   create();
-  OhneTaskleiste(windowHandle());
-  // Decoding and painting the picture takes 20 ms; do it after the first paint of the main window.
-  constexpr int kAufschub = 100;  // milliseconds
-  setUpdatesEnabled(false);
-  QTimer::singleShot(kAufschub, this, [this] { setUpdatesEnabled(true); });
+  OhneTaskleiste(this);
+  frist_.setSingleShot(true);
+  frist_.setInterval(1000);
+  connect(&frist_, &QTimer::timeout, this, [this] { pixel_.reset(); });
 }
 
-void frmHintergrund::paintEvent(QPaintEvent *) {
-  // Not kept: the window system holds what was painted, and the picture takes several megabytes.
-  const QPixmap Image1 = Streckbild("schreibtisch", size() * devicePixelRatioF());
-  QPainter maler(this);
+void frmHintergrund::Zeichne(QPainter &maler) const {
+  const QImage Image1 = Streckbild("schreibtisch", size() * devicePixelRatio());
   maler.setRenderHint(QPainter::SmoothPixmapTransform);
-  maler.drawPixmap(rect(), Image1);
+  maler.drawImage(QRect({}, size()), Image1);
+}
+
+void frmHintergrund::exposeEvent(QExposeEvent *) {
+  QTimer::singleShot(std::exchange(aufschub_, 0), this, &frmHintergrund::Male);
+}
+
+void frmHintergrund::Male() {
+  if (!isExposed())
+    return;
+  const QRect alles({}, size());
+  if (!pixel_) {
+    pixel_ = std::make_unique<QBackingStore>(this);
+    pixel_->resize(size());
+    pixel_->beginPaint(alles);
+    QPainter maler(pixel_->paintDevice());
+    Zeichne(maler);
+    maler.end();
+    pixel_->endPaint();
+  }
+  pixel_->flush(alles);
+  frist_.start();
 }
 
 void frmHintergrund::mousePressEvent(QMouseEvent *) {
-  const bool minimiert = hauptfenster_->isMinimized();
   hauptfenster_->setWindowState(hauptfenster_->windowState() & ~Qt::WindowMinimized);
-  QList<QWidget *> fenster{hauptfenster_};
-  for (QDialog *anderes : hauptfenster_->findChildren<QDialog *>()) {
-    if (!anderes->isHidden())
-      fenster.append(anderes);
-  }
-  for (QWidget *eines : fenster) {
-    eines->raise();
-    if (!minimiert)             // Else it would take the focus when it is shown again.
-      eines->activateWindow();  // Some window managers raise a window only when it is activated.
-  }
-  (fenster.last()->isModal() ? fenster.last() : hauptfenster_)->activateWindow();
+  hauptfenster_->raise();
+  for (QDialog *fenster : hauptfenster_->findChildren<QDialog *>())
+    fenster->raise();
+  // xfwm4 gives the focus to what was raised, a moment later; i3 raises only what is activated. The
+  // main window passes the focus on to a modal one.
+  constexpr int kPause = 100;  // milliseconds
+  QTimer::singleShot(kPause, hauptfenster_, &QWidget::activateWindow);
 }

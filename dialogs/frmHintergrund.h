@@ -1,20 +1,35 @@
 #pragma once
 
-#include <QWidget>
+#include <QBackingStore>
+#include <QTimer>
+#include <QWindow>
+#include <memory>
+
+class QPainter;
+class QWidget;
 
 /// The window behind the game that covers the desktop. It never takes the focus. A click on it
 /// raises the windows of the game and restores them if they are minimised.
-class frmHintergrund : public QWidget {
+class frmHintergrund : public QWindow {
   Q_OBJECT
 
  public:
   /// Covers the screen of the main window.
   explicit frmHintergrund(QWidget *hauptfenster);
 
+  /// Draws the picture of the whole window.
+  void Zeichne(QPainter &maler) const;
+
  protected:
-  void paintEvent(QPaintEvent *ereignis) override;
+  void exposeEvent(QExposeEvent *ereignis) override;
   void mousePressEvent(QMouseEvent *ereignis) override;
 
  private:
+  void Male();
+
   QWidget *hauptfenster_;
+  /// What is painted, 8 MB on a wide screen. Kept only while windows are dragged over this one.
+  std::unique_ptr<QBackingStore> pixel_;
+  QTimer frist_;
+  int aufschub_ = 100;  ///< Milliseconds until the next painting: the main window comes first.
 };

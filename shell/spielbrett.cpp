@@ -99,7 +99,7 @@ Brettlicht::Brettlicht(Spielbrett *brett)
 
 void Brettlicht::Setze(Stand stand) {
   stand_ = stand;
-  stein_ = stand == Stand::Warten ? QPixmap(":/bilder/stein.png") : QPixmap();
+  stein_ = stand == Stand::Warten ? QImage(":/bilder/stein.png") : QImage();
   update();
 }
 
@@ -107,7 +107,7 @@ void Brettlicht::paintEvent(QPaintEvent *) {
   QPainter maler(this);
   maler.setRenderHint(QPainter::SmoothPixmapTransform);
   if (stand_ == Stand::Warten)
-    maler.drawPixmap(rect(), stein_);
+    maler.drawImage(rect(), stein_);
   QLinearGradient abfall(rect().topLeft(), rect().bottomRight());
   abfall.setColorAt(0, Qt::transparent);
   abfall.setColorAt(1, QColor(kAbfall));

@@ -67,7 +67,7 @@ class Brettlicht : public Bild {
  private:
   const Spielbrett &brett_;
   Stand stand_ = Stand::Spiel;
-  QPixmap stein_;  ///< Null but while waiting.
+  QImage stein_;  ///< Null but while waiting.
 };
 
 /// The board: the cells and the clue places. Passes every press on a cell to the rules.

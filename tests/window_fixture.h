@@ -33,6 +33,7 @@ class WindowFixture : public testing::Test {
     board.reset();
     for (QWidget *window : QApplication::topLevelWidgets())
       delete window;
+    qDeleteAll(QGuiApplication::topLevelWindows());  // The cover.
   }
 
   /// Acts on the next modal window of a kind. What is announced happens in its order, each action

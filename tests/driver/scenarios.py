@@ -241,6 +241,9 @@ def desktop(path):
     def ask():
         mouse.click(program.button("Beenden"))
 
+    if float(output("import", "-window", "root", "-crop", "99x99+9+500", "-format",
+                    "%[fx:standard_deviation]", "info:")) < 0.005:
+        raise Deviation("an empty cover")
     mouse.click(program.button("Neues Spiel"))  # Reaches it only above the cover.
     wait_for(lambda: program.read()["Level"] == 1, "game above the cover")
     allowed = int(answer("xprop", "_MOTIF_WM_HINTS").split()[3].strip(","), 16)
@@ -255,7 +258,7 @@ def desktop(path):
         step()
         time.sleep(0.5)  # Nothing may take the focus later.
         wait_for(lambda: focus().startswith(wanted), f"{wanted} has the focus", 10)
-    if manager not in ("", "i3"):
+    if manager[:2] not in ("", "i3"):
         xdotool("windowminimize", game, "sleep", 1.5)
         wait_for(lambda: "Iconic" in answer("xprop", "WM_STATE"), "minimised game")
         click_cover()

@@ -142,16 +142,15 @@ TEST_F(MainWindow, StandsInTheMiddleBeforeACoverThatBringsItBack) {
   EXPECT_EQ(spiel.Bestenschwelle, 13000);
   const QPoint middle = board->screen()->availableGeometry().center();
   EXPECT_LE((board->frameGeometry().center() - middle).manhattanLength(), 2);
-  QWidget *cover = nullptr;
-  for (QWidget *window : QApplication::topLevelWidgets())
-    if (qobject_cast<frmHintergrund *>(window) && window->isVisible())
-      cover = window;
+  frmHintergrund *cover = nullptr;
+  for (QWindow *window : QGuiApplication::topLevelWindows())
+    if (auto *found = qobject_cast<frmHintergrund *>(window))
+      cover = found;
   ASSERT_NE(cover, nullptr);
   EXPECT_EQ(cover->geometry(), board->screen()->geometry());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return cover->updatesEnabled(); }));
   Ask([&](Meldefenster &window) {
     board->showMinimized();
-    Click(cover);
+    QTest::mouseClick(cover, Qt::LeftButton);
     EXPECT_TRUE(window.isActiveWindow() && !board->isMinimized());
     EXPECT_EQ(board->centralWidget()->internalWinId(), 0U) << "it is no window of its own";
   });
