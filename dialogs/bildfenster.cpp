@@ -4,7 +4,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWindow>
-#include <utility>
 
 #include "controls/bild.h"
 #include "controls/bilder.h"
@@ -33,22 +32,24 @@ void Bildfenster::Platziere(const QWidget *hauptfenster, Fensterlage lage) {
 }
 
 int Bildfenster::exec() {
-  while (QDialog::exec(), erneut_) {
-  }
+  QDialog::exec();
   parentWidget()->activateWindow();  // Without a window manager, nobody gives the focus back.
   return result();
 }
 
 void Bildfenster::ZeigeErneut() {
   // While it is being shown again, the compositor may make the main window active once more.
-  erneut_ = IstWayland() && windowHandle()->isExposed();
-  if (erneut_)
-    hide();
+  if (!IstWayland() || !windowHandle()->isExposed())
+    return;
+  erneut_ = true;
+  QWidget::setVisible(false);  // QDialog's would end exec().
+  show();
+  erneut_ = false;
 }
 
 void Bildfenster::showEvent(QShowEvent *ereignis) {
   ErlaubeTab(this);
-  if (!ereignis->spontaneous() && !std::exchange(erneut_, false))
+  if (!ereignis->spontaneous() && !erneut_)
     Form_Activate();
   QDialog::showEvent(ereignis);
 }
