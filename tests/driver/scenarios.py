@@ -31,6 +31,7 @@ def first_run(driver):
     driver.look(text=f"Spielmodus : {MODES[1]}")
     driver.press("Information", "Beste Spieler...")
     driver.look(BLIP)
+    opens(driver, "Bestespieler.pdf")
     driver.close("OK", BEST)
     driver.press("Neues Spiel")
     driver.look(BLIP, Level=1, Punkte=500)
