@@ -77,9 +77,11 @@ TEST_F(Rules, AMoveChangesItsCell) {
       for (const Kachel before : {Verdeckt, Markiert, Fehler, Sarant}) {
         screen.SetzeKachel(cell, before);
         screen.SetzeModustext("");
+        spiel.Fehler = 0;
         Press(cell, button);
         told << " | " << Element(kTiles, before) << ": " << Element(kTiles, screen.LiesKachel(cell))
-             << " " << screen.shown["sounds"] << (screen.shown["text"].empty() ? "" : " text");
+             << " " << screen.shown["sounds"] << (screen.shown["text"].empty() ? "" : " text")
+             << (spiel.Fehler == 1 ? " counts" : "");
         screen.Tell();
       }
       told << "\n";
