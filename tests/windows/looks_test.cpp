@@ -66,6 +66,7 @@ TEST_F(Looks, OfTheMainWindow) {
   Focus(Find(*board, "imgSar2"));
   auto *tiles = board->findChild<Spielbrett *>();
   tiles->Licht().Setze(Brettlicht::Stand::Spiel);
+  QTest::mousePress(Find(*board, "imgEnde"), Qt::LeftButton);
   Expect("spielfeld", board->grab());
   board->Zeige(Bedienung::imgNextLevel, true);
   Expect("gewonnen", tiles->grab(QRect(158, 158, 235, 235)));
