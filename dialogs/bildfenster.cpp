@@ -4,6 +4,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWindow>
+#include <utility>
 
 #include "controls/bild.h"
 #include "controls/bilder.h"
@@ -32,24 +33,22 @@ void Bildfenster::Platziere(const QWidget *hauptfenster, Fensterlage lage) {
 }
 
 int Bildfenster::exec() {
-  QDialog::exec();
+  while (QDialog::exec(), erneut_) {
+  }
   parentWidget()->activateWindow();  // Without a window manager, nobody gives the focus back.
   return result();
 }
 
 void Bildfenster::ZeigeErneut() {
   // While it is being shown again, the compositor may make the main window active once more.
-  if (!IstWayland() || !windowHandle()->isExposed())
-    return;
-  erneut_ = true;
-  QWidget::setVisible(false);  // QDialog's would end exec().
-  show();
-  erneut_ = false;
+  erneut_ = IstWayland() && windowHandle()->isExposed();
+  if (erneut_)
+    hide();
 }
 
 void Bildfenster::showEvent(QShowEvent *ereignis) {
   ErlaubeTab(this);
-  if (!ereignis->spontaneous() && !erneut_)
+  if (!ereignis->spontaneous() && !std::exchange(erneut_, false))
     Form_Activate();
   QDialog::showEvent(ereignis);
 }

@@ -30,7 +30,7 @@ class Bildfenster : public QDialog {
 
  private:
   const char *hintergrund_;
-  bool erneut_ = false;  ///< Being shown again, not anew.
+  bool erneut_ = false;  ///< Hidden only to be shown again.
 };
 
 /// A title bar with a close button, but no buttons to minimise or maximise.
