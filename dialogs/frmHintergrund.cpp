@@ -17,7 +17,7 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster) : hauptfenster_(hauptfenst
   create();
   OhneTaskleiste(this);
   frist_.setSingleShot(true);
-  frist_.setInterval(1000);
+  frist_.setInterval(300);
   connect(&frist_, &QTimer::timeout, this, [this] { pixel_.reset(); });
 }
 
