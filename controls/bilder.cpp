@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <array>
 #include <cmath>
 #include <map>
@@ -74,10 +75,9 @@ void LadeSpielbilder(double geraetepixel) {
 int GeladeneBilder() { return katalog.geladen; }
 
 QImage Streckbild(const QString &name, const QSizeF &ziel) {
-  const QImage bild(Ressource(name, 1));
+  const QSize bild = QImageReader(Ressource(name, 1)).size();
   const double faktor = std::max(ziel.width() / bild.width(), ziel.height() / bild.height());
-  const int aufloesung = Aufloesung(name, faktor / kStaerksteStreckung);
-  return aufloesung == 1 ? bild : QImage(Ressource(name, aufloesung));
+  return QImage(Ressource(name, Aufloesung(name, faktor / kStaerksteStreckung)));
 }
 
 QCursor Handzeiger() {

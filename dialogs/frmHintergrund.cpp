@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 #include <utility>
 
 #include "controls/bilder.h"
@@ -16,9 +17,6 @@ frmHintergrund::frmHintergrund(QWidget *hauptfenster) : hauptfenster_(hauptfenst
   setMaximumSize(size());
   create();
   OhneTaskleiste(this);
-  frist_.setSingleShot(true);
-  frist_.setInterval(300);
-  connect(&frist_, &QTimer::timeout, this, [this] { pixel_.reset(); });
 }
 
 void frmHintergrund::Zeichne(QPainter &maler) const {
@@ -43,9 +41,10 @@ void frmHintergrund::Male() {
     Zeichne(maler);
     maler.end();
     pixel_->endPaint();
+    constexpr int kFrist = 300;  // milliseconds
+    QTimer::singleShot(kFrist, this, [this] { pixel_.reset(); });
   }
   pixel_->flush(alles);
-  frist_.start();
 }
 
 void frmHintergrund::mousePressEvent(QMouseEvent *) {

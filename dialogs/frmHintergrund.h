@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QBackingStore>
-#include <QTimer>
 #include <QWindow>
 #include <memory>
 
@@ -28,8 +27,8 @@ class frmHintergrund : public QWindow {
   void Male();
 
   QWidget *hauptfenster_;
-  /// What is painted, 8 MB on a wide screen. Kept only while windows are dragged over this one.
+  /// What is painted, 8 MB on a wide screen. Kept for a moment only: a window that is dragged over
+  /// this one asks for it at each step.
   std::unique_ptr<QBackingStore> pixel_;
-  QTimer frist_;
   int aufschub_ = 100;  ///< Milliseconds until the next painting: the main window comes first.
 };
