@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kLevelJeStufe = 5;
 
-const Texteintrag kTexte[] = {
+const Texteintrag kUeberschriften[] = {
     {"Label1", {3030, 150, 2175, 585}, 15.75, true, kBlau, "Spielstart", Qt::AlignLeft},
     {"Label2", {1620, 3120, 4335, 435}, 15.75, true, kDunkelgruen, "Spielmodus"},
 };
@@ -37,7 +37,7 @@ const Bildeintrag kSound[] = {
     {"imgSound1", {2250, 5100, 2865, 630}, "sound1",
      "Soundeffekt ausschalten", "Soundeffekt", QAccessible::CheckBox},
 };
-const Bildeintrag kEnde{"cmdEnde", {1470, 5940, 2865, 630}, "knopfSchliessen",
+const Bildeintrag kSchliessen{"cmdEnde", {1470, 5940, 2865, 630}, "knopfSchliessen",
                         "Fenster schließen ohne die Einstellungen zu übernehmen", "Schließen"};
 const Bildeintrag kNehmen{"cmdNehmen", {4380, 5940, 2865, 630}, "knopfUebernehmen",
                           "Einstellungen übernehmen", "Übernehmen"};
@@ -54,7 +54,7 @@ frmOptionen::frmOptionen(QWidget *hauptfenster, Ansicht &ansicht)
       SoundWahl_(spiel.SoundAn),
       ModusVorher_(spiel.Spielmodus) {
   setWindowTitle("Form1");  // Kept on purpose.
-  for (const Texteintrag &eintrag : kTexte)
+  for (const Texteintrag &eintrag : kUeberschriften)
     new Beschriftung(this, eintrag);
   NeueLinie(this, kTrennlinie, 2, kBlau);
   for (const bool an : {false, true}) {
@@ -63,7 +63,7 @@ frmOptionen::frmOptionen(QWidget *hauptfenster, Ansicht &ansicht)
     bild->SetzeGewaehlt(an);
     imgSound_.at(an ? 1 : 0) = bild;
   }
-  (new Bild(this, kEnde))->SetzeKlick([this] { close(); });
+  (new Bild(this, kSchliessen))->SetzeKlick([this] { close(); });
   (new Bild(this, kNehmen))->SetzeKlick([this] { cmdNehmen_Click(); });
 
   ZeigeSound();

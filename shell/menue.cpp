@@ -13,7 +13,7 @@
 
 namespace {
 
-struct Eintrag {
+struct Menueeintrag {
   const char *name;
   const char *text = "";  ///< Empty for a separator.
   std::function<void(frmSpielfeld &)> tat = nullptr;
@@ -24,35 +24,35 @@ struct Eintrag {
 struct Kopf {
   const char *name;
   const char *text;
-  std::vector<Eintrag> eintraege;
+  std::vector<Menueeintrag> eintraege;
 };
 
 constexpr const char *kSound = "mnuSound";  ///< The entry with the submenu.
 
 std::vector<Kopf> Tabelle() {
-  using F = frmSpielfeld;
+  using Fenster = frmSpielfeld;
   // Trailing blanks put space between the titles of the menus.
   return {
       {"mnuMenue1",
        "&Spiel                     ",
        {{"mnuSpiel1", "Neues Spiel", imgNeuesSpiel_Click, Qt::CTRL | Qt::Key_N},
-        {"mnuSpiel2", "Spielstand laden...", &F::imgOeffnen_Click, Qt::CTRL | Qt::Key_O,
+        {"mnuSpiel2", "Spielstand laden...", &Fenster::imgOeffnen_Click, Qt::CTRL | Qt::Key_O,
          Bedienung::imgOeffnen},
-        {"mnuSpiel3", "Spielstand speichern unter...", &F::imgSpeichern_Click, Qt::CTRL | Qt::Key_S,
-         Bedienung::imgSpeichern},
+        {"mnuSpiel3", "Spielstand speichern unter...", &Fenster::imgSpeichern_Click,
+         Qt::CTRL | Qt::Key_S, Bedienung::imgSpeichern},
         {"mnuSpiel4"},
         {"mnuSpiel5", "b&eenden", imgEnde_Click}}},
       {"mnuMenue2",
        "&Optionen             ",
        {{kSound, "Sound"},
         {"mnuOptionen4"},
-        {"mnuEinstellungen", "Einstellungen...", &F::imgEinstellungen_Click}}},
+        {"mnuEinstellungen", "Einstellungen...", &Fenster::imgEinstellungen_Click}}},
       {"mnuMenue3",
        "&Information",
-       {{"mnuInfo1", "&Spielanleitung", &F::lblAnleitung_Click, Qt::Key_F1},
-        {"mnuInfo2", "&zu dieser Anwendung...", &F::lblInfo_Click},
+       {{"mnuInfo1", "&Spielanleitung", &Fenster::lblAnleitung_Click, Qt::Key_F1},
+        {"mnuInfo2", "&zu dieser Anwendung...", &Fenster::lblInfo_Click},
         {"mnuInfo3"},
-        {"mnuInfo4", "&Beste Spieler...", &F::mnuInfo4_Click}}},
+        {"mnuInfo4", "&Beste Spieler...", &Fenster::mnuInfo4_Click}}},
   };
 }
 
@@ -87,7 +87,7 @@ std::map<Bedienung, QAction *> BaueMenue(frmSpielfeld &fenster) {
   for (const Kopf &kopf : Tabelle()) {
     QMenu *menue = fenster.menuBar()->addMenu(kopf.text);
     menue->setObjectName(kopf.name);
-    for (const Eintrag &eintrag : kopf.eintraege) {
+    for (const Menueeintrag &eintrag : kopf.eintraege) {
       QAction *aktion =
           eintrag.name == kSound ? BaueSoundmenue(menue) : menue->addAction(eintrag.text);
       aktion->setObjectName(eintrag.name);
