@@ -1,5 +1,5 @@
-"""The screen reader Orca, and what it speaks. Its speech goes to a module without sound over the sound
-server: without either, Orca stops after its second sentence.
+"""What a blind player hears: the words of the screen reader Orca, or the same words put together from
+the events on the accessibility bus, which is quick and needs no Orca.
 
 usage: scripts/stage scripts/player/reader.py PROGRAM [KEYS ...]
        Tells what is spoken at the start and after each KEYS: as xdotool names them, with commas between.
@@ -11,11 +11,12 @@ import subprocess
 import sys
 import time
 
+import pyatspi
 from audio import Audio
-from program import STAGE, Deviation, Program, wait_for, xdotool
+from gi.repository import GLib
+from program import STAGE, Deviation, Program, has, labels, wait_for, xdotool
 
 LOG = STAGE / "orca.log"
-QUIET = 1.5  # seconds without a new line in the log: Orca has nothing more to do
 FILES = {
     ".config/speech-dispatcher/speechd.conf":
         'AudioOutputMethod "pulse"\nAddModule "dummy" "sd_dummy" ""\nDefaultModule dummy\n',
@@ -27,34 +28,24 @@ FILES = {
     "bin/pgrep": "#!/bin/sh\n"}  # By this Orca would find the Orca of another session, and not start.
 
 
-class Orca:
+class Reader:
+    QUIET = 0.3  # seconds without a new event: all has been spoken
+
     def __init__(self):
-        for name, text in FILES.items():
-            (STAGE / name).parent.mkdir(parents=True, exist_ok=True)
-            (STAGE / name).write_text(text)
-        (STAGE / "bin/pgrep").chmod(0o755)
-        LOG.touch()
-        for command in ("speech-dispatcher", "--run-single"), ("orca", f"--debug-file={LOG}"):
-            process = subprocess.Popen(command, stderr=subprocess.DEVNULL)
-            atexit.register(process.wait)
-            atexit.register(process.kill)  # This comes first.
         self.past = 0
-        self.hear("Screen reader on.*")
 
     def hear(self, wanted=".*"):
         """Waits until this has been spoken since the last time, and nothing more, and returns it."""
-        size, since = 0, time.monotonic()
+        size, since = -1, 0
 
         def is_heard():
             nonlocal size, since
-            if size != LOG.stat().st_size:
-                size, since = LOG.stat().st_size, time.monotonic()
-            if time.monotonic() - since < QUIET:
+            if size != (new := self.size()):
+                size, since = new, time.monotonic()
+            if time.monotonic() - since < self.QUIET:
                 return None
-            texts = re.findall(r"SPEECH OUTPUT: '(.*?)' *\[?{'est", LOG.read_text(errors="replace"), re.DOTALL)
-            # Versions of Orca differ in these words.
-            said = " / ".join(re.sub("notification |push | frame", "", " ".join(text.split())).rstrip(".")
-                              for text in texts[self.past:])
+            texts = self.texts()
+            said = " / ".join(" ".join(text.split()).rstrip(".") for text in texts[self.past:])
             if not re.fullmatch(wanted, said):
                 raise Deviation(said)
             self.past = len(texts)
@@ -73,6 +64,84 @@ class Orca:
         if alt:
             xdotool("keyup", "alt")
         return said
+
+
+class Orca(Reader):
+    """Its speech goes to a module without sound over the sound server: without either, Orca stops after
+    its second sentence."""
+    QUIET = 1.5
+
+    def __init__(self):
+        super().__init__()
+        for name, text in FILES.items():
+            (STAGE / name).parent.mkdir(parents=True, exist_ok=True)
+            (STAGE / name).write_text(text)
+        (STAGE / "bin/pgrep").chmod(0o755)
+        LOG.touch()
+        for command in ("speech-dispatcher", "--run-single"), ("orca", f"--debug-file={LOG}"):
+            process = subprocess.Popen(command, stderr=subprocess.DEVNULL)
+            atexit.register(process.wait)
+            atexit.register(process.kill)  # This comes first.
+        self.hear("Screen reader on.*")
+
+    def size(self):
+        return LOG.stat().st_size
+
+    def texts(self):
+        texts = re.findall(r"SPEECH OUTPUT: '(.*?)' *\[?{'est", LOG.read_text(errors="replace"), re.DOTALL)
+        # Versions of Orca differ in these words.
+        return [re.sub("notification |push | frame", "", text) for text in texts]
+
+
+class Events(Reader):
+    """Speaks as Orca does: a new window with its texts, the groups that the focus enters, the control
+    with its role and description, and what the program announces."""
+    ROLES = {pyatspi.ROLE_PUSH_BUTTON: " button", pyatspi.ROLE_RADIO_BUTTON: " radio button",
+             pyatspi.ROLE_CHECK_BOX: " check box", pyatspi.ROLE_TEXT: " text"}
+
+    def __init__(self):
+        super().__init__()
+        self.spoken, self.groups, self.window = [""], [], None
+        pyatspi.Registry.registerEventListener(
+            self.speak, "window:activate", "object:announcement",
+            *("object:state-changed:" + state for state in ("focused", "checked", "showing")))
+
+    def speak(self, event):
+        try:
+            text = self.words(event, event.source, event.source.name, event.source.getRole())
+        except GLib.GError:
+            return  # It has gone in the meantime.
+        if text and text != self.spoken[-1]:
+            self.spoken.append(text)
+
+    def words(self, event, element, name, role):
+        if event.type == "object:announcement":
+            return event.any_data
+        if role == pyatspi.ROLE_NOTIFICATION:
+            return event.detail1 and name
+        if event.type == "window:activate":
+            is_new, self.window, self.groups = element != self.window, element, []
+            texts = [text for text in labels(element) if text != name]
+            return is_new and role == pyatspi.ROLE_DIALOG and " ".join([name, "dialog", *texts])
+        if role == pyatspi.ROLE_DIALOG or not has(element, pyatspi.STATE_FOCUSED):
+            return None
+        left, self.groups, group = self.groups, [], element.parent
+        while group.getRole() == pyatspi.ROLE_PANEL:
+            self.groups.insert(0, " ".join([group.name, "panel", *labels(group)]))
+            group = group.parent
+        choice = ""
+        if role == pyatspi.ROLE_RADIO_BUTTON:
+            choice = " selected" if has(element, pyatspi.STATE_CHECKED) else " not selected"
+        entered = [group for group in self.groups if group not in left]
+        return " / ".join([*entered, name + choice + self.ROLES.get(role, ""), element.description]).strip(" /")
+
+    def size(self):
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return len(self.spoken)
+
+    def texts(self):
+        return self.spoken[1:]
 
 
 if __name__ == "__main__":

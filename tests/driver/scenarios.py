@@ -2,7 +2,7 @@
 under another window manager.
 
 usage: [SCREEN=weston] [MANAGER=COMMAND] scripts/stage tests/driver/scenarios.py PROGRAM SCENARIO
-       The scenarios are tour, keyboard, bus, sound and desktop; weston has the bus alone.
+       The scenarios are tour, keyboard, orca, bus, sound and desktop; weston has the bus alone.
 """
 
 import os
@@ -18,7 +18,7 @@ from audio import Audio
 from driver import BEST, BLIP, MODES, OPTIONS, QUESTION, START, Driver
 from program import (GEM, MARKED, STAGE, TITLE, WRONG, Bus, Deviation, Mouse, Program, has, lines,
                      output, put, read_files, wait_for, xdotool)
-from reader import Orca
+from reader import Events, Orca
 
 SHORT = {"(title)": r"Glanzgrube Vers.: \S+", "(cell)": r"Zeile \d+, Spalte \d+:",
          "(level)": "Spielmodus: Einfach Es sind 75 Saranten auf dem Spielfeld"}
@@ -114,8 +114,8 @@ def tour(path):
         driver.program.end()
 
 
-def keyboard(path):
-    """What Orca speaks after the keys of each line of a list: a level from the new game to the win, and
+def keyboard(path, by=Events):
+    """What a blind player hears after the keys of each line of a list: a level from the new game to the win, and
     what else a player meets."""
     def learn():
         driver.files = read_files()
@@ -137,7 +137,7 @@ def keyboard(path):
         down, right = goal // 10 - start // 10, goal % 10 - start % 10
         if start != goal:
             keys = "Down," * down + "Up," * -down + "Right," * right + "Left," * -right
-            orca.press(keys[:-1], rf".*Zeile {goal // 10 + 1}, Spalte {goal % 10 + 1}: verdeckt button")
+            ear.press(keys[:-1], rf".*Zeile {goal // 10 + 1}, Spalte {goal % 10 + 1}: verdeckt button")
 
     def row():
         tens = focus() // 10 * 10
@@ -146,7 +146,7 @@ def keyboard(path):
 
     put("sarant.txt", *["Niemand"] * 5, *[-30000] * 5)  # Any score is a new best.
     audio = Audio(path)
-    orca, driver, gems = Orca(), Driver(path, audio, Bus(), sound=False), set()
+    ear, driver, gems = by(), Driver(path, audio, Bus(), sound=False), set()
     for line in Path(__file__).with_name("keyboard.txt").read_text().splitlines():
         keys, wanted = line.split(" → ")
         for short, long in SHORT.items():
@@ -158,9 +158,13 @@ def keyboard(path):
             walk_to(place == "(gem")
         if command := {"(learn)": learn, "(win)": win}.get(keys):
             command()
-        said = orca.hear(wanted) if command else orca.press(keys_there, wanted)
+        said = ear.hear(wanted) if command else ear.press(keys_there, wanted)
         print(time.strftime("%X"), keys, "→", said, flush=True)
     driver.program.end()
+
+
+def orca(path):
+    keyboard(path, Orca)
 
 
 def bus(path):
