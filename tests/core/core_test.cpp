@@ -104,18 +104,22 @@ TEST_F(Rules, TheLastGemWinsEvenBesideAnError) {
 }
 
 TEST_F(Rules, EachLevelAndModeHasItsGemsStartCellsAndMarks) {
+  std::set<std::pair<int, Kachel>> tiles;
   for (int level = 1; level <= kLetztesLevel; ++level) {
     std::ostringstream open, points;
     for (int mode = 1; mode <= kModi; ++mode) {
       SpielAbLevelBeginnen(screen, level - 1, mode);
       open << screen.Count(Sarant) << " ";
       points << spiel.Punkte << " ";
+      for (int cell = 1; cell <= kZellen; ++cell)
+        tiles.emplace(cell, screen.LiesKachel(cell));
       EXPECT_EQ(screen.Count(Sarant) + Covered(true).size(), 76 - level);
       EXPECT_EQ(std::accumulate(screen.numbers.begin(), screen.numbers.end(), 0), 2 * (76 - level));
     }
     told << "level " << level << ": marks " << screen.Count(Markiert) << " | open gems "
          << open.str() << "| points " << points.str() << "\n";
   }
+  EXPECT_EQ(tiles.size(), 3 * kZellen) << "a cell was never open, marked or covered";
 }
 
 TEST_F(Rules, AQuestionComesOnlyWithPointsAndOnlyYesBeginsAnew) {
