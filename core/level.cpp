@@ -139,8 +139,8 @@ void MarkiereFreiesFeld(Ansicht &ansicht) {
 }
 
 void RaeumeLevelende(Ansicht &ansicht) {
-  spiel.Fehler = 0;  // Nobody sees this step: LevelBeginnen() does it, too.
-  spiel.Levelpunkte = 0;
+  spiel.Fehler = 0;       // Nobody sees this step: LevelBeginnen() does it, too.
+  spiel.Levelpunkte = 0;  // Nor this one: the end of each level sets them anew.
   for (const Bedienung bedienung :
        {Bedienung::imgNextLevel, Bedienung::cmdWiederholen, Bedienung::imgSpeichern})
     ansicht.Zeige(bedienung, false);
