@@ -106,7 +106,8 @@ TEST_F(Looks, OfTheOtherWindows) {
     Expect("meldung", window.grab());
     window.close();
   });
-  board->Melde(MeldungFalscherDateityp(std::string(60, 'x') + ".txt"));  // This one is wrapped.
+  // This one is wrapped, and is no markup.
+  board->Melde(MeldungFalscherDateityp("<b>" + std::string(60, 'x') + ".txt"));
 }
 
 }  // namespace
