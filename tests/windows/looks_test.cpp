@@ -106,8 +106,7 @@ TEST_F(Looks, OfTheOtherWindows) {
     Expect("meldung", window.grab());
     window.close();
   });
-  // This one is wrapped, and is no markup.
-  board->Melde(MeldungFalscherDateityp("<b>" + std::string(60, 'x') + ".txt"));
+  board->Melde(MeldungFalscherDateityp("<b>" + std::string(60, 'x') + ".txt"));  // Wrapped.
 }
 
 }  // namespace
