@@ -38,7 +38,7 @@ const Bildeintrag kSound[] = {
      "Soundeffekt ausschalten", "Soundeffekt", QAccessible::CheckBox},
 };
 const Bildeintrag kSchliessen{"cmdEnde", {1470, 5940, 2865, 630}, "knopfSchliessen",
-                        "Fenster schließen ohne die Einstellungen zu übernehmen", "Schließen"};
+                              "Fenster schließen ohne die Einstellungen zu übernehmen", "Schließen"};
 const Bildeintrag kNehmen{"cmdNehmen", {4380, 5940, 2865, 630}, "knopfUebernehmen",
                           "Einstellungen übernehmen", "Übernehmen"};
 // clang-format on

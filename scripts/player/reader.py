@@ -29,6 +29,7 @@ FILES = {
 
 
 class Reader:
+    """Presses keys, and compares what is spoken then with what is wanted."""
     QUIET = 0.3  # seconds without a new event: all has been spoken
 
     def __init__(self):
@@ -118,22 +119,29 @@ class Events(Reader):
         if event.type == "object:announcement":
             return event.any_data
         if role == pyatspi.ROLE_NOTIFICATION:
-            return event.detail1 and name
+            return name if event.detail1 else ""
         if event.type == "window:activate":
             is_new, self.window, self.groups = element != self.window, element, []
-            texts = [text for text in labels(element) if text != name]
-            return is_new and role == pyatspi.ROLE_DIALOG and " ".join([name, "dialog", *texts])
+            return self.dialog(element, name) if is_new and role == pyatspi.ROLE_DIALOG else ""
         if role == pyatspi.ROLE_DIALOG or not has(element, pyatspi.STATE_FOCUSED):
-            return None
+            return ""
+        return " / ".join(filter(None, [*self.entered(element), self.control(element, name, role), element.description]))
+
+    def dialog(self, window, name):
+        return " ".join([name, "dialog", *(text for text in labels(window) if text != name)])
+
+    def entered(self, element):
         left, self.groups, group = self.groups, [], element.parent
         while group.getRole() == pyatspi.ROLE_PANEL:
             self.groups.insert(0, " ".join([group.name, "panel", *labels(group)]))
             group = group.parent
+        return [group for group in self.groups if group not in left]
+
+    def control(self, element, name, role):
         choice = ""
         if role == pyatspi.ROLE_RADIO_BUTTON:
             choice = " selected" if has(element, pyatspi.STATE_CHECKED) else " not selected"
-        entered = [group for group in self.groups if group not in left]
-        return " / ".join([*entered, name + choice + self.ROLES.get(role, ""), element.description]).strip(" /")
+        return name + choice + self.ROLES.get(role, "")
 
     def size(self):
         while GLib.MainContext.default().iteration(False):

@@ -115,8 +115,8 @@ def tour(path):
 
 
 def keyboard(path, by=Events):
-    """What a blind player hears after the keys of each line of a list: a level from the new game to the win, and
-    what else a player meets."""
+    """What a blind player hears after the keys of each line of a list: a level from the new game to the
+    win, and what else a player meets."""
     def learn():
         driver.files = read_files()
         driver.look(Level=1, Punkte=500)
